@@ -1,0 +1,3 @@
+#include "threads/ThreadKiller.h"
+
+bool ThreadKiller::m_kill = false;
