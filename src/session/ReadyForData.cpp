@@ -1,0 +1,4 @@
+#include "session/ReadyForData.h"
+
+char const* const ReadyForData::rootElementName = "ClientToUI";
+char const* const ReadyForData::messageElementName = "ReadyForData";

@@ -1,0 +1,227 @@
+#include "session/UnixPipe.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <memory>
+
+#include "threads/MilliSecondSleep.h"
+#include "threads/ThreadKiller.h"
+
+PipeCloser::~PipeCloser() {
+    if (*m_descriptor != 0) {
+        close(*m_descriptor);
+        *m_descriptor = 0;
+    }
+}
+
+UnixPipeRef::UnixPipeRef(UnixPipe* pipe) : m_pipe(pipe) {
+    if (m_pipe) m_pipe->AddReference();
+}
+
+UnixPipeRef::~UnixPipeRef() {
+    try {
+        if (m_pipe && m_pipe->RemoveReference() == 0) {
+            delete m_pipe;
+            m_pipe = nullptr;
+        }
+    } catch (...) {
+    }
+}
+
+namespace {
+
+// Thread entry points: run the loop, then drop the thread's own reference to the pipe.
+void ReadThreadMain(void* argument) {
+    UnixPipeRef* reference = static_cast<UnixPipeRef*>(argument);
+    try {
+        reference->m_pipe->ServiceReadLoop();
+    } catch (...) {
+    }
+    delete reference;
+}
+
+void WriteThreadMain(void* argument) {
+    UnixPipeRef* reference = static_cast<UnixPipeRef*>(argument);
+    try {
+        reference->m_pipe->ServiceWriteLoop();
+    } catch (...) {
+    }
+    delete reference;
+}
+
+// Makes a thread for entry on the pipe; returns null if it could not start.
+PortableThread* StartThread(void (*entry)(void*), UnixPipeRef* reference) {
+    PortableThread* thread = PortableThread::CreatePortableThreadSuspended(entry, reference);
+    if (!thread) return nullptr;
+    if (!thread->Start()) {
+        delete thread;
+        return nullptr;
+    }
+    return thread;
+}
+
+}  // namespace
+
+UnixPipe::UnixPipe(UIMessageQueue& readQueue, UIMessageQueue& writeQueue)
+    : m_readQueue(readQueue), m_writeQueue(writeQueue) {}
+
+// Members go in reverse order: the reference lock, the kill lock, then the closers, the write
+// descriptor first.
+UnixPipe::~UnixPipe() = default;
+
+bool UnixPipe::Start(int readDescriptor, int writeDescriptor) {
+    {
+        AccessLocker locker(m_killLock);
+        m_readDescriptor = readDescriptor;
+        m_writeDescriptor = writeDescriptor;
+    }
+    UnixPipeRef* readReference = new UnixPipeRef(this);
+    {
+        // The thread fields are set under the kill lock, since Kill on another thread reads them.
+        AccessLocker locker(m_killLock);
+        m_readThread = StartThread(ReadThreadMain, readReference);
+        if (!m_readThread) {
+            delete readReference;
+            return false;
+        }
+    }
+    UnixPipeRef* writeReference = new UnixPipeRef(this);
+    {
+        AccessLocker locker(m_killLock);
+        m_writeThread = StartThread(WriteThreadMain, writeReference);
+        if (!m_writeThread) {
+            delete writeReference;
+            return false;
+        }
+    }
+    return true;
+}
+
+void UnixPipe::Kill() {
+    AccessLocker locker(m_killLock);
+    if (m_killed) return;
+    if (m_writeDescriptor != 0) {
+        close(m_writeDescriptor);
+        m_writeDescriptor = 0;
+    }
+    if (m_writeThread) m_writeThread->Abandon();
+    if (m_readThread) m_readThread->Abandon();
+    m_killed = true;
+}
+
+bool UnixPipe::Killed() const {
+    AccessLocker locker(m_killLock);
+    return m_killed;
+}
+
+void UnixPipe::Sleep(unsigned long milliseconds) const { MilliSecondSleep(milliseconds); }
+
+unsigned long UnixPipe::AddReference() {
+    AccessLocker locker(m_referenceLock);
+    return ++m_referenceCount;
+}
+
+unsigned long UnixPipe::RemoveReference() {
+    AccessLocker locker(m_referenceLock);
+    if (m_referenceCount != 0) --m_referenceCount;
+    return m_referenceCount;
+}
+
+unsigned long UnixPipe::GetRefCount() {
+    AccessLocker locker(m_referenceLock);
+    return m_referenceCount;
+}
+
+PortableThread* UnixPipe::ReadThread() const {
+    AccessLocker locker(m_killLock);
+    return m_readThread;
+}
+
+PortableThread* UnixPipe::WriteThread() const {
+    AccessLocker locker(m_killLock);
+    return m_writeThread;
+}
+
+int UnixPipe::ReadDescriptor() const {
+    AccessLocker locker(m_killLock);
+    return m_readDescriptor;
+}
+
+int UnixPipe::WriteDescriptor() const {
+    AccessLocker locker(m_killLock);
+    return m_writeDescriptor;
+}
+
+void UnixPipe::ReadExactly(unsigned char* into, unsigned long size) {
+    int descriptor = ReadDescriptor();
+    while (size != 0) {
+        ssize_t got = read(descriptor, into, size);
+        if (got == 0) throw UnixPipeReadMessageError();
+        if (got < 0) {
+            // An interrupted read is tried again; any other failure ends the stream, since
+            // going on would read into the wrong place or spin without end.
+            if (errno == EINTR) continue;
+            throw UnixPipeReadMessageError();
+        }
+        into += got;
+        size -= static_cast<unsigned long>(got);
+    }
+}
+
+void UnixPipe::ReadMessageFromPipe(UIMessage& message) {
+    uint32_t length = 0;
+    ReadExactly(reinterpret_cast<unsigned char*>(&length), sizeof length);
+    if (length > maximumFrameLength) throw UnixPipeReadMessageError();
+    std::unique_ptr<unsigned char[]> body(new unsigned char[length ? length : 1]);
+    if (length != 0) ReadExactly(body.get(), length);
+    message.m_type = 0;
+    message.m_text = MakeUString(body.get(), body.get() + length, UTF8());
+}
+
+void UnixPipe::WriteMessageToPipe(UIMessage& message) {
+    uint32_t length = static_cast<uint32_t>(message.Length());
+    if (length == 0) return;
+    int descriptor = WriteDescriptor();
+    if (write(descriptor, &length, sizeof length) != static_cast<ssize_t>(sizeof length))
+        throw UnixPipeWriteMessageError();
+    if (write(descriptor, message.m_text.begin, length) != static_cast<ssize_t>(length))
+        throw UnixPipeWriteMessageError();
+}
+
+void UnixPipe::ServiceReadLoop() {
+    try {
+        for (;;) {
+            if (Killed() || !ReadThread() || ThreadKiller::m_kill) break;
+            UIMessage message;
+            ReadMessageFromPipe(message);
+            m_readQueue.WriteMessage(message);
+        }
+    } catch (...) {
+    }
+    Kill();
+}
+
+void UnixPipe::ServiceWriteLoop() {
+    FiFoQueue<UIMessage> batch;
+    try {
+        for (;;) {
+            if (Killed() || !WriteThread() || ThreadKiller::m_kill) break;
+            m_writeQueue.ReadMessages(batch);
+            while (!batch.IsEmpty()) {
+                UIMessage message = batch.TakeFirst();
+                // An empty message is the in-band request to shut the write side down.
+                if (message.Length() == 0) {
+                    Kill();
+                    batch.Clear();
+                    return;
+                }
+                WriteMessageToPipe(message);
+            }
+            Sleep(100);
+        }
+    } catch (...) {
+    }
+    Kill();
+    batch.Clear();
+}

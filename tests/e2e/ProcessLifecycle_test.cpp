@@ -1,0 +1,98 @@
+// The built program over real pipes: greeting, waiting, framing limits and every way the
+// waiting process ends.
+
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <time.h>
+
+#include <cstdint>
+#include <string>
+
+#include "AgentSimulator.h"
+
+namespace {
+
+char const greeting[] =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ClientToUI>\n\t<ReadyForData></ReadyForData>\n"
+    "</ClientToUI>";
+
+double Seconds() {
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec + now.tv_nsec / 1e9;
+}
+
+std::string Header(uint32_t length) { return std::string(reinterpret_cast<char*>(&length), 4); }
+
+// Starts the program and takes its greeting.
+void StartAndGreet(AgentSimulator& agent) {
+    agent.Launch(ZOLCLIENTUI_PATH);
+    auto frame = agent.ReceiveFrame(5000);
+    ASSERT_TRUE(frame.has_value()) << "no greeting";
+    EXPECT_EQ(*frame, greeting);
+}
+
+void ExpectCleanExit(AgentSimulator& agent) {
+    auto end = agent.WaitForExit(15000);
+    ASSERT_TRUE(end.has_value()) << "the process did not end";
+    EXPECT_TRUE(end->exited);
+    EXPECT_EQ(end->status, 0);
+}
+
+}  // namespace
+
+TEST(ProcessLifecycle, GreetsFirstThenEndsCleanlyAfterThePauseWhenThePipeCloses) {
+    AgentSimulator agent;
+    double started = Seconds();
+    StartAndGreet(agent);
+    EXPECT_LT(Seconds() - started, 5.0) << "the greeting should leave within about a second";
+
+    // Nothing further arrives while the process waits for its first document.
+    EXPECT_FALSE(agent.ReceiveFrame(1500).has_value());
+    EXPECT_TRUE(agent.Running());
+
+    double closed = Seconds();
+    agent.CloseToProcess();
+    ExpectCleanExit(agent);
+    EXPECT_GE(Seconds() - closed, 2.0) << "exit without the two-second pause";
+}
+
+TEST(ProcessLifecycle, TheLargestFrameIsTakenAndOneByteMoreEndsTheSession) {
+    AgentSimulator agent;
+    StartAndGreet(agent);
+    agent.SendFrame(std::string(2097152, 'x'));
+    EXPECT_FALSE(agent.WaitForExit(3000).has_value()) << "a frame of the largest size ended it";
+
+    agent.SendRaw(Header(2097153));
+    ExpectCleanExit(agent);
+}
+
+TEST(ProcessLifecycle, BytesOneAtATimeAndEmptyFramesDoNoHarm) {
+    AgentSimulator agent;
+    StartAndGreet(agent);
+    std::string document = "<ClientToUI><QuietModeEnd></QuietModeEnd></ClientToUI>";
+    std::string stream = Header(0) + Header(static_cast<uint32_t>(document.size())) + document;
+    for (char byte : stream) ASSERT_TRUE(agent.SendRaw(std::string(1, byte)));
+    EXPECT_FALSE(agent.WaitForExit(2500).has_value());
+    agent.CloseToProcess();
+    ExpectCleanExit(agent);
+}
+
+TEST(ProcessLifecycle, AStreamEndingInsideAHeaderEndsTheSession) {
+    AgentSimulator agent;
+    StartAndGreet(agent);
+    agent.SendRaw(std::string("\x10\x00", 2));
+    agent.CloseToProcess();
+    ExpectCleanExit(agent);
+}
+
+// No signal disposition is set by the process: when the agent has gone, the first write
+// raises SIGPIPE at its default disposition and the kernel ends the process there.
+TEST(ProcessLifecycle, NoReaderOnDescriptorOneEndsItBySigpipeAtTheFirstWrite) {
+    AgentSimulator agent;
+    agent.Launch(ZOLCLIENTUI_PATH, {}, /*closeReadEnd=*/true);
+    auto end = agent.WaitForExit(10000);
+    ASSERT_TRUE(end.has_value()) << "the process survived writing to a pipe without reader";
+    EXPECT_TRUE(end->signalled);
+    EXPECT_EQ(end->status, SIGPIPE);
+}

@@ -1,0 +1,153 @@
+#include "AgentSimulator.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <time.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <stdexcept>
+
+namespace {
+
+long NowMs() {
+    timespec now;
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return now.tv_sec * 1000L + now.tv_nsec / 1000000L;
+}
+
+}  // namespace
+
+AgentSimulator::~AgentSimulator() {
+    if (m_toProcess >= 0) close(m_toProcess);
+    if (m_fromProcess >= 0) close(m_fromProcess);
+    if (m_pid > 0 && !m_end) {
+        kill(m_pid, SIGKILL);
+        int status;
+        waitpid(m_pid, &status, 0);
+    }
+}
+
+void AgentSimulator::Launch(std::string const& program, std::vector<std::string> const& arguments,
+                            bool closeReadEnd) {
+    int toProcess[2], fromProcess[2];
+    if (pipe2(toProcess, O_CLOEXEC) != 0 || pipe2(fromProcess, O_CLOEXEC) != 0)
+        throw std::runtime_error("cannot make pipes");
+    // The simulator itself must survive writing to a process that has gone.
+    signal(SIGPIPE, SIG_IGN);
+    std::vector<char*> argv;
+    argv.push_back(const_cast<char*>(program.c_str()));
+    for (auto const& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+    argv.push_back(nullptr);
+    if (closeReadEnd) {
+        close(fromProcess[0]);
+        fromProcess[0] = -1;
+    }
+
+    pid_t pid = fork();
+    if (pid < 0) throw std::runtime_error("cannot fork");
+    if (pid == 0) {
+        // The process gets SIGPIPE at its default disposition, as an agent would leave it.
+        signal(SIGPIPE, SIG_DFL);
+        dup2(toProcess[0], 0);
+        dup2(fromProcess[1], 1);
+        execv(program.c_str(), argv.data());
+        _exit(127);
+    }
+    m_pid = pid;
+    close(toProcess[0]);
+    close(fromProcess[1]);
+    m_toProcess = toProcess[1];
+    m_fromProcess = fromProcess[0];
+}
+
+bool AgentSimulator::SendRaw(std::string const& bytes) {
+    size_t done = 0;
+    while (done < bytes.size()) {
+        ssize_t n = write(m_toProcess, bytes.data() + done, bytes.size() - done);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        done += static_cast<size_t>(n);
+    }
+    return true;
+}
+
+void AgentSimulator::SendFrame(std::string const& text) {
+    uint32_t length = static_cast<uint32_t>(text.size());
+    SendRaw(std::string(reinterpret_cast<char const*>(&length), sizeof length) + text);
+}
+
+void AgentSimulator::CloseToProcess() {
+    if (m_toProcess >= 0) close(m_toProcess);
+    m_toProcess = -1;
+}
+
+bool AgentSimulator::TakeFrameFromBuffer(std::string& frame) {
+    if (m_received.size() < 4) return false;
+    uint32_t length;
+    std::memcpy(&length, m_received.data(), 4);
+    if (m_received.size() < 4 + static_cast<size_t>(length)) return false;
+    frame = m_received.substr(4, length);
+    m_received.erase(0, 4 + static_cast<size_t>(length));
+    return true;
+}
+
+std::optional<std::string> AgentSimulator::ReceiveFrame(int timeoutMs) {
+    long deadline = NowMs() + timeoutMs;
+    std::string frame;
+    while (!TakeFrameFromBuffer(frame)) {
+        if (m_fromProcess < 0) return std::nullopt;
+        long left = deadline - NowMs();
+        if (left <= 0) return std::nullopt;
+        pollfd fd{m_fromProcess, POLLIN, 0};
+        int ready = poll(&fd, 1, static_cast<int>(left));
+        if (ready < 0 && errno == EINTR) continue;
+        if (ready <= 0) return std::nullopt;
+        char buffer[65536];
+        ssize_t n = read(m_fromProcess, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            close(m_fromProcess);
+            m_fromProcess = -1;
+            return std::nullopt;
+        }
+        m_received.append(buffer, static_cast<size_t>(n));
+    }
+    return frame;
+}
+
+void AgentSimulator::Reap(int status, struct rusage const& usage) {
+    ProcessEnd end;
+    end.exited = WIFEXITED(status);
+    end.signalled = WIFSIGNALED(status);
+    end.status = end.exited ? WEXITSTATUS(status) : (end.signalled ? WTERMSIG(status) : 0);
+    end.userSeconds = usage.ru_utime.tv_sec + usage.ru_utime.tv_usec / 1e6;
+    end.systemSeconds = usage.ru_stime.tv_sec + usage.ru_stime.tv_usec / 1e6;
+    end.peakResidentKiB = usage.ru_maxrss;
+    m_end = end;
+}
+
+bool AgentSimulator::Running() {
+    if (m_end || m_pid <= 0) return false;
+    int status;
+    struct rusage usage;
+    pid_t got = wait4(m_pid, &status, WNOHANG, &usage);
+    if (got == m_pid) {
+        Reap(status, usage);
+        return false;
+    }
+    return got == 0;
+}
+
+std::optional<ProcessEnd> AgentSimulator::WaitForExit(int timeoutMs) {
+    long deadline = NowMs() + timeoutMs;
+    while (Running()) {
+        if (NowMs() >= deadline) return std::nullopt;
+        usleep(10000);
+    }
+    return m_end;
+}
