@@ -2,18 +2,21 @@
 // How the main thread sends documents to the agent: it puts them into the write queue, and the
 // pipe's write thread sends them within about 100 ms.
 
-#include "session/ReadyForData.h"
 #include "text/UString.h"
+#include "xml/ConvertToXML.h"
 
 // A tag without state that marks the overloads of SendToClient.
 struct PipeWriter {};
 
+extern PipeWriter pipeWriter;
+
 // Copies the text into a message and appends it to the write queue.
 void SendToClient(PipeWriter& writer, UStringRef<UTF8> text);
 
-// Writes the whole document for the record and queues it.
+// Writes the whole document for a record whose root is "ClientToUI" (the greeting and the
+// error report) and queues it.
 template <class T>
-void WriteXMLToClient(T& message);
-
-template <>
-void WriteXMLToClient<ReadyForData>(ReadyForData& message);
+void WriteXMLToClient(T& message) {
+    AutoUString<UTF8> text = ConvertToXML(message);
+    SendToClient(pipeWriter, text);
+}

@@ -2,3 +2,5 @@
 
 char const* const ReadyForData::rootElementName = "ClientToUI";
 char const* const ReadyForData::messageElementName = "ReadyForData";
+
+void XMLSerialize(XMLWriter&, ReadyForData&) {}

@@ -10,5 +10,4 @@ XtAppContext app_context = nullptr;
 Display* display = nullptr;
 Widget zolHidden = nullptr;
 UnixPipe* clientPipe = nullptr;
-PipeWriter pipeWriter;
 bool hiddenWindowPending = true;

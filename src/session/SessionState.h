@@ -19,5 +19,4 @@ extern XtAppContext app_context;
 extern Display* display;
 extern Widget zolHidden;         // the hidden shell that other X clients talk to
 extern UnixPipe* clientPipe;     // the one pipe; main also holds a reference on it
-extern PipeWriter pipeWriter;    // tag passed to SendToClient
 extern bool hiddenWindowPending;  // the hidden shell is still to be made

@@ -6,6 +6,7 @@
 #include "session/ClientSender.h"
 #include "session/ExitCleanup.h"
 #include "session/ProcessMessagesFromClient.h"
+#include "session/ReadyForData.h"
 #include "session/SessionState.h"
 
 int main(int, char**) {

@@ -1,0 +1,58 @@
+#include "session/ClientSender.h"
+
+#include <gtest/gtest.h>
+#include <time.h>
+
+#include <string>
+#include <thread>
+
+#include "session/ClientUIErrorMessage.h"
+#include "session/ReadyForData.h"
+#include "session/SendErrorToClient.h"
+#include "session/SessionState.h"
+
+namespace {
+
+std::vector<std::string> TakeWriteQueue() {
+    FiFoQueue<UIMessage> batch;
+    writeQ.ReadMessages(batch);
+    std::vector<std::string> texts;
+    while (!batch.IsEmpty()) {
+        UIMessage message = batch.TakeFirst();
+        texts.emplace_back(reinterpret_cast<char const*>(message.m_text.begin), message.Length());
+    }
+    return texts;
+}
+
+}  // namespace
+
+// The agent matches the greeting byte for byte.
+TEST(ClientSender, GreetingBytes) {
+    TakeWriteQueue();
+    ReadyForData greeting;
+    WriteXMLToClient(greeting);
+    EXPECT_EQ(TakeWriteQueue(),
+              std::vector<std::string>{"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ClientToUI>\n"
+                                       "\t<ReadyForData></ReadyForData>\n</ClientToUI>"});
+}
+
+TEST(ClientSender, ErrorReportGoesTwiceAndWaitsForTheWriteSide) {
+    TakeWriteQueue();
+    ClientUIErrorMessage report;
+    report.m_code = ClientUIErrorMessage::NoFont;
+    report.m_debugString = "noFont (<Misc>)";
+    std::vector<std::string> taken;
+    std::thread writeSide([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+        taken = TakeWriteQueue();
+    });
+    time_t started = time(nullptr);
+    SendErrorToClient(report);
+    writeSide.join();
+    EXPECT_LE(time(nullptr) - started, 10) << "kept waiting after the queue was taken";
+    std::string document =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ClientToUI>\n\t<ClientUIErrorMessage>\n"
+        "\t\t<DebugString><![CDATA[noFont (<Misc>)]]></DebugString>\n"
+        "\t\t<ErrorCode>1</ErrorCode>\n\t</ClientUIErrorMessage>\n</ClientToUI>";
+    EXPECT_EQ(taken, (std::vector<std::string>{document, document}));
+}
