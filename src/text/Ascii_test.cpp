@@ -1,0 +1,165 @@
+#include <gtest/gtest.h>
+
+#include <cctype>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "text/Ascii.h"
+#include "text/AsciiCaseFilters.h"
+#include "text/Bits.h"
+#include "text/DataReceiver.h"
+#include "text/IgnoreDataReceiver.h"
+
+namespace {
+
+int Sign(int value) {
+    return (value > 0) - (value < 0);
+}
+
+}  // namespace
+
+// The C library's classes in the "C" locale are an independent statement of the same sets.
+TEST(Ascii, SetsMatchTheCLocaleClasses) {
+    struct Case {
+        char const* name;
+        Ascii::CharacterSet const& set;
+        bool (*member)(int);
+    } const cases[] = {
+        {"UppercaseAlphabet", Ascii::UppercaseAlphabet(), [](int b) { return isupper(b) != 0; }},
+        {"LowercaseAlphabet", Ascii::LowercaseAlphabet(), [](int b) { return islower(b) != 0; }},
+        {"Alphabetic", Ascii::Alphabetic(), [](int b) { return isalpha(b) != 0; }},
+        {"Alphabetic_", Ascii::Alphabetic_(), [](int b) { return isalpha(b) || b == '_'; }},
+        {"Numeric", Ascii::Numeric(), [](int b) { return isdigit(b) != 0; }},
+        {"Alphanumeric", Ascii::Alphanumeric(), [](int b) { return isalnum(b) != 0; }},
+        {"Alphanumeric_", Ascii::Alphanumeric_(), [](int b) { return isalnum(b) || b == '_'; }},
+        {"HexDigits", Ascii::HexDigits(), [](int b) { return isxdigit(b) != 0; }},
+        {"Punctuation", Ascii::Punctuation(), [](int b) { return ispunct(b) != 0; }},
+        {"LinearWhiteSpace", Ascii::LinearWhiteSpace(), [](int b) { return isblank(b) != 0; }},
+        {"WhiteSpace", Ascii::WhiteSpace(),
+         [](int b) { return isspace(b) && b != '\v' && b != '\f'; }},
+        {"Low", Ascii::Low(), [](int b) { return b < 0x80; }},
+        {"High", Ascii::High(), [](int b) { return b >= 0x80; }},
+        {"Control", Ascii::Control(), [](int b) { return iscntrl(b) != 0; }},
+        {"PlainText", Ascii::PlainText(), [](int b) { return isprint(b) != 0; }},
+        {"Printable", Ascii::Printable(), [](int b) { return isgraph(b) != 0; }},
+        {"Unprintable", Ascii::Unprintable(), [](int b) { return !isgraph(b); }},
+    };
+    for (Case const& c : cases) {
+        for (int b = 0; b < 256; ++b) {
+            bool inWord = (c.set.words[b >> 5] >> (b & 31)) & 1;
+            ASSERT_EQ(c.member(b), inWord) << c.name << " " << b;
+            ASSERT_EQ(inWord, c.set.Contains(static_cast<unsigned char>(b)));
+        }
+    }
+}
+
+TEST(Ascii, CaseTablesChangeOnlyLetters) {
+    EXPECT_TRUE(Ascii::CaseTablesAreCorrect());
+    for (int b = 0; b < 256; ++b) {
+        int upper = b < 0x80 ? toupper(b) : b;
+        int lower = b < 0x80 ? tolower(b) : b;
+        ASSERT_EQ(upper, Ascii::uppercaseTable[static_cast<unsigned char>(b)]);
+        ASSERT_EQ(lower, Ascii::lowercaseTable[static_cast<unsigned char>(b)]);
+    }
+    for (unsigned v = 0; v < 16; ++v) {
+        ASSERT_EQ(v, Ascii::HexDigitValue(Ascii::HexDigit(v)));
+        ASSERT_EQ(v, Ascii::HexDigitValue(static_cast<unsigned char>(toupper(Ascii::HexDigit(v)))));
+    }
+}
+
+TEST(Ascii, FoldedComparisons) {
+    EXPECT_TRUE(Ascii::EqualIgnoringCase("HeLLo", "hello"));
+    EXPECT_FALSE(Ascii::EqualIgnoringCase("hello", "hell"));
+    EXPECT_FALSE(Ascii::EqualIgnoringCase("\xc4", "\xe4"));
+    EXPECT_EQ(0, Ascii::CompareLowercase("ABC", "abc"));
+    EXPECT_EQ('_' - 'a', Ascii::CompareLowercase("_", "A"));
+    EXPECT_EQ('_' - 'A', Ascii::CompareUppercase("_", "a"));
+    EXPECT_EQ(-1, Ascii::CompareUppercase("ab", "ABC"));
+    EXPECT_EQ(1, Ascii::CompareUppercase("abc", "AB"));
+    EXPECT_TRUE(Ascii::IsLowercase("abc 1\xc4"));
+    EXPECT_FALSE(Ascii::IsLowercase("aBc"));
+    EXPECT_TRUE(Ascii::IsUppercase("ABC 1"));
+    EXPECT_FALSE(Ascii::IsUppercase("ABc"));
+    EXPECT_EQ("HELLO, WORLD\xe4", Ascii::RaiseCase(ConstData("Hello, world\xe4")));
+    EXPECT_EQ("hello, world", Ascii::LowerCase(ConstData("HELLO, World")));
+
+    std::mt19937 random(9);
+    for (int i = 0; i < 5000; ++i) {
+        std::string a(random() % 5, ' '), b(random() % 5, ' ');
+        for (char& c : a) c = "aAbB_"[random() % 5];
+        for (char& c : b) c = "aAbB_"[random() % 5];
+        std::string la = Ascii::LowerCase(ConstData(a)), lb = Ascii::LowerCase(ConstData(b));
+        ASSERT_EQ(Sign(la.compare(lb)), Sign(Ascii::CompareLowercase(a, b)));
+        ASSERT_EQ(la == lb, Ascii::EqualIgnoringCase(a, b));
+    }
+}
+
+TEST(Ascii, CaseFiltersGiveTheSameBytesInAnyChunking) {
+    std::mt19937 random(13);
+    std::string input;
+    for (int b = 0; b < 256; ++b) input += static_cast<char>(b);
+    std::string expected = Ascii::RaiseCase(ConstData(input));
+    for (int round = 0; round < 300; ++round) {
+        std::string output(input.size(), '\0');
+        ConstBuffer in{ConstData(input)};
+        Buffer out(Data(&output[0], output.size()));
+        DataFilter& filter = Ascii::RaiseCase();
+        while (!in.Empty()) {
+            std::size_t inChunk = std::min<std::size_t>(in.Size(), random() % 9);
+            std::size_t outChunk = std::min<std::size_t>(out.Size(), random() % 9);
+            ConstBuffer inPart(in.cursor, in.cursor + inChunk);
+            Buffer outPart(out.cursor, out.cursor + outChunk);
+            filter(inPart, outPart);
+            ASSERT_EQ(std::min(inChunk, outChunk), std::size_t(inPart.cursor - in.cursor));
+            in.cursor = inPart.cursor;
+            out.cursor = outPart.cursor;
+        }
+        ASSERT_TRUE(filter.Flushed());
+        ASSERT_EQ(expected, output);
+    }
+
+    unsigned char lowered[3] = {};
+    Ascii::LowerCase()(ConstData("AbCdE"), Data(lowered));
+    EXPECT_EQ("abc", MakeString(ConstData(lowered, 3)));
+    unsigned char copied[4] = {};
+    DataFilter::copy(ConstData("AbCdE"), Data(copied));
+    EXPECT_EQ("AbCd", MakeString(ConstData(copied, 4)));
+}
+
+TEST(DataReceiver, RopeIsReceivedPartByPart) {
+    struct Recorder : DataReceiver {
+        using DataReceiver::Receive;
+        void Start() override { parts.push_back("<"); }
+        void Receive(ConstData data) override { parts.push_back(MakeString(data)); }
+        void ReceiveEnd() override { parts.push_back(">"); }
+        std::vector<std::string> parts;
+    } recorder;
+    ConstData pieces[] = {ConstData("ab"), ConstData(), ConstData("c")};
+    recorder.Start();
+    recorder.Receive(ConstDataRopeReference(pieces));
+    recorder << ConstData("d");
+    recorder.ReceiveEnd();
+    EXPECT_EQ((std::vector<std::string>{"<", "ab", "", "c", "d", ">"}), recorder.parts);
+
+    DataReceiver& ignore = DataReceiver::Ignore();
+    EXPECT_EQ(&ignore, &DataReceiver::Ignore());
+    EXPECT_NE(nullptr, dynamic_cast<IgnoreDataReceiver*>(&ignore));
+    ignore.Start();
+    ignore << ConstData("anything");
+    ignore.ReceiveEnd();
+}
+
+// The builtins state the same facts about bits independently of the tables.
+TEST(Bits, TablesAgreeWithTheBitBuiltins) {
+    for (unsigned b = 0; b < 256; ++b) {
+        unsigned char byte = static_cast<unsigned char>(b);
+        unsigned complement = ~b & 0xFF;
+        ASSERT_EQ(__builtin_popcount(b), Bits::count[byte]);
+        ASSERT_EQ(complement ? __builtin_ctz(complement) : 8, Bits::firstZero[byte]);
+        ASSERT_EQ(complement ? 31 - __builtin_clz(complement) : 8, Bits::lastZero[byte]);
+        unsigned reversed = Bits::reverse[byte];
+        ASSERT_EQ(b, Bits::reverse[static_cast<unsigned char>(reversed)]);
+        for (int i = 0; i < 8; ++i) ASSERT_EQ((b >> i) & 1, (reversed >> (7 - i)) & 1);
+    }
+}

@@ -1,0 +1,42 @@
+#include "text/Numeral.h"
+
+#include "text/Ascii.h"
+
+void Numeral::Make(unsigned long long magnitude, unsigned base) {
+    m_cursor = digitsEnd;
+    m_buffer[digitsEnd] = 0;
+    do {
+        m_buffer[--m_cursor] = Ascii::HexDigit(static_cast<unsigned>(magnitude % base));
+        magnitude /= base;
+    } while (magnitude != 0);
+    PlacePrefix();
+}
+
+void Numeral::PlacePrefix() {
+    std::size_t begin = m_cursor;
+    if (m_showSign) m_buffer[--begin] = static_cast<unsigned char>(m_signCharacter);
+    m_buffer[begin - 1] = static_cast<unsigned char>(digitsEnd - begin);
+}
+
+void Numeral::PadTo(unsigned long count) {
+    // Room must stay for the sign and the length byte.
+    if (count > digitsEnd - 2) throw ConstDataCapacityExceeded();
+    while (DigitCount() < count) m_buffer[--m_cursor] = '0';
+    PlacePrefix();
+}
+
+std::size_t Numeral::DigitCount() const {
+    return digitsEnd - m_cursor;
+}
+
+Numeral::operator ConstData() const {
+    return ConstData(TextBegin(), m_buffer + digitsEnd);
+}
+
+Numeral::operator UStringRef<USAscii>() const {
+    return UStringRef<USAscii>(TextBegin(), m_buffer + digitsEnd, true);
+}
+
+Numeral::operator unsigned char const*() const {
+    return TextBegin() - 1;
+}
