@@ -1,0 +1,39 @@
+#pragma once
+// FileStats with accessors: what kind of thing stands at a path and its times.
+
+#include <cstdint>
+
+#include "files/FileStats.h"
+#include "time/Instant.h"
+
+namespace UnixPlatform {
+
+class FileLocation;
+
+class UnixFileInfo : public FileStats {
+  public:
+    // Looks at the location. Returns 0, or the errno of the failed call.
+    int Set(FileLocation const& location);
+
+    Status GetStatus() const { return status; }
+    bool Exists() const { return status != absent; }
+    // Returns whether the path itself is a symbolic link, with or without a target.
+    bool IsLink() const { return status == link || status == dangling; }
+    // Returns whether the target is a regular file or a directory; never for a dangling link.
+    bool IsFile() const;
+    bool IsDirectory() const;
+    // Returns the size of the target in bytes.
+    std::uint64_t Size() const { return static_cast<std::uint64_t>(target.st_size); }
+
+    Instant ModificationTime() const;
+    Instant AccessTime() const;
+    // Changes the modification time of this record only; the file is not touched.
+    void SetModificationTime(Instant const& time);
+
+    // Returns whether both records say the same thing stands there, unchanged: status, device,
+    // inode, mode, size and modification time of the target.
+    bool operator==(UnixFileInfo const& other) const;
+    bool operator!=(UnixFileInfo const& other) const { return !(*this == other); }
+};
+
+}  // namespace UnixPlatform
