@@ -1,0 +1,141 @@
+#include "time/DateRecord.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+// An independent calendar walker: the date after the given one, by month lengths alone.
+DateRecord NextDay(DateRecord date) {
+    bool const leap = (date.year % 4 == 0 && date.year % 100 != 0) || date.year % 400 == 0;
+    static int const lengths[13] = {0, 31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    int const length = lengths[date.month] + (leap && date.month == February ? 1 : 0);
+    if (date.day < length) {
+        ++date.day;
+    } else if (date.month < December) {
+        date.day = 1;
+        date.month = static_cast<Month>(date.month + 1);
+    } else {
+        date.day = 1;
+        date.month = January;
+        ++date.year;
+    }
+    return date;
+}
+
+}  // namespace
+
+TEST(DateRecord, AbsoluteDayAndSetAbsoluteDayAgreeOnEveryDayOfYears0To2400) {
+    DateRecord walked(1, January, 0);
+    unsigned long const end = DateRecord::DaysBefore(2401);
+    for (unsigned long day = 0; day < end; ++day) {
+        DateRecord set;
+        set.SetAbsoluteDay(day);
+        ASSERT_EQ(set, walked) << "day " << day;
+        ASSERT_EQ(walked.AbsoluteDay(), day);
+        ASSERT_TRUE(set.Valid());
+        ASSERT_EQ(set.DayOfWeek(), static_cast<DayOfWeek>((day + 6) % 7));
+        walked = NextDay(walked);
+    }
+    EXPECT_EQ(walked, DateRecord(1, January, 2401));
+}
+
+TEST(DateRecord, YearOfAndDaysBeforeAgreeAtTheEdgesOfEveryYear) {
+    for (unsigned long year = 0; year <= 100000; ++year) {
+        unsigned long const first = DateRecord::DaysBefore(year);
+        ASSERT_EQ(DateRecord::YearOf(first), year);
+        ASSERT_EQ(DateRecord::YearOf(first + DateRecord::DaysIn(year) - 1), year);
+        ASSERT_EQ(DateRecord::DaysBefore(year + 1) - first, DateRecord::DaysIn(year));
+    }
+}
+
+TEST(DateRecord, KnownDaysAndLeapYears) {
+    EXPECT_EQ(DateRecord(1, January, 1970).AbsoluteDay(), 719528u);
+    EXPECT_EQ(DateRecord(1, January, 1970).DayOfWeek(), Thursday);
+    EXPECT_EQ(DateRecord(4, March, 2000).DayOfWeek(), Saturday);
+    DateRecord zero;
+    zero.SetAbsoluteDay(0);
+    EXPECT_EQ(zero, DateRecord(1, January, 0));
+
+    struct {
+        unsigned long year;
+        bool leap;
+    } const years[] = {{0, true},    {1, false},    {4, true},    {100, false},
+                       {400, true},  {1900, false}, {2000, true}, {2023, false},
+                       {2024, true}, {2100, false}, {2400, true}};
+    for (auto const& y : years) {
+        EXPECT_EQ(DateRecord::IsLeapYear(y.year), y.leap) << y.year;
+        EXPECT_EQ(DateRecord::DaysIn(y.year), y.leap ? 366u : 365u) << y.year;
+    }
+}
+
+TEST(DateRecord, LeapDayFoldsAndComesBack) {
+    DateRecord leapDay(29, February, 2000);
+    EXPECT_EQ(leapDay.DayOfYear(), 59);
+    DateRecord set(1, January, 2000);
+    set.SetDayOfYear(59);
+    EXPECT_EQ(set, leapDay);
+    EXPECT_EQ(MonthOf(59, false), March);
+    EXPECT_EQ(MonthOf(59, true), February);
+    EXPECT_EQ(MonthOf(58, true), February);
+    EXPECT_EQ(MonthOf(365, true), December);
+    EXPECT_EQ(MonthOf(400, false), December);
+    EXPECT_EQ(DaysBefore(March, true), 60);
+    EXPECT_EQ(DaysBefore(February, true), 31);
+    EXPECT_EQ(DaysIn(February, true), 29);
+    EXPECT_EQ(DaysIn(February, false), 28);
+}
+
+TEST(DateRecord, ValidityTable) {
+    struct {
+        DateRecord date;
+        bool valid;
+    } const cases[] = {
+        {DateRecord(31, January, 2000), true},
+        {DateRecord(32, January, 2000), false},
+        {DateRecord(29, February, 2000), true},
+        {DateRecord(29, February, 1900), false},
+        {DateRecord(0, March, 2000), false},
+        {DateRecord(31, April, 2000), false},
+        {DateRecord(1, static_cast<Month>(0), 2000), false},
+        {DateRecord(1, static_cast<Month>(13), 2000), false},
+        {DateRecord(31, December, 4000000000u), true},
+    };
+    for (auto const& c : cases) EXPECT_EQ(c.date.Valid(), c.valid) << int(c.date.day);
+}
+
+TEST(DateRecord, MovingAndDifferencesAgreeWithOrder) {
+    std::mt19937_64 random(7);
+    std::uniform_int_distribution<unsigned long> days(0, DateRecord::DaysBefore(10000));
+    std::uniform_int_distribution<long> steps(-100000, 100000);
+    for (int i = 0; i < 20000; ++i) {
+        DateRecord a, b;
+        a.SetAbsoluteDay(days(random));
+        b.SetAbsoluteDay(days(random));
+        ASSERT_EQ(a - b, static_cast<long>(a.AbsoluteDay()) - static_cast<long>(b.AbsoluteDay()));
+        ASSERT_EQ(a < b, a.AbsoluteDay() < b.AbsoluteDay());
+        long const step = steps(random);
+        if (static_cast<long>(a.AbsoluteDay()) + step < 0) continue;
+        DateRecord moved = a;
+        moved += step;
+        ASSERT_EQ(moved - a, step);
+        moved -= step;
+        ASSERT_EQ(moved, a);
+        if (step >= 0) {
+            ASSERT_EQ(a + static_cast<unsigned long>(step), static_cast<unsigned long>(step) + a);
+            ASSERT_EQ(a + static_cast<unsigned long>(step) - static_cast<unsigned long>(step), a);
+        }
+    }
+}
+
+TEST(DateRecord, NamesOfMonthsAndDays) {
+    EXPECT_STREQ(MonthToText(static_cast<Month>(0)), "");
+    EXPECT_STREQ(MonthToText(September), "Sep");
+    EXPECT_STREQ(FullNameOfMonth(September), "September");
+    EXPECT_STREQ(MonthToTwoDigits(September), "09");
+    EXPECT_STREQ(MonthToTwoDigits(December), "12");
+    EXPECT_STREQ(DayOfWeekToText(Wednesday), "Wed");
+    EXPECT_STREQ(FullNameOfDayOfWeek(Wednesday), "Wednesday");
+    EXPECT_STREQ(FullNameOfDayOfWeek(Saturday), "Saturday");
+}

@@ -1,0 +1,101 @@
+#include "time/TimeLexer.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Writes each token it is given as a line of text, to compare token streams.
+class Recorder : public TimeLexemeAcceptor {
+  public:
+    std::vector<std::string> tokens;
+
+    void Reset() override { tokens.push_back("reset"); }
+    void AcceptEnd(unsigned long position) override {
+        tokens.push_back("end " + std::to_string(position));
+    }
+    void AcceptReservedWord(Range<unsigned long>, TimeParsingAction action) override {
+        tokens.push_back("word " + std::to_string(action.part) + " " +
+                         std::to_string(action.value));
+    }
+    void AcceptOrdinaryWord(Range<unsigned long>, ConstData word) override {
+        tokens.push_back("ordinary " + MakeString(word));
+    }
+    void AcceptWordOverflow(Range<unsigned long>) override { tokens.push_back("overflow"); }
+    void AcceptOneDigit(unsigned long v) override { tokens.push_back("1:" + std::to_string(v)); }
+    void AcceptTwoDigits(unsigned long v) override { tokens.push_back("2:" + std::to_string(v)); }
+    void AcceptThreeDigits(unsigned long v) override { tokens.push_back("3:" + std::to_string(v)); }
+    void AcceptFourDigits(unsigned long v) override { tokens.push_back("4:" + std::to_string(v)); }
+    void AcceptOtherNumeral() override { tokens.push_back("numeral"); }
+    void AcceptCharacter(Range<unsigned long>, unsigned char c) override {
+        tokens.push_back(std::string("char ") + char(c));
+    }
+};
+
+std::vector<std::string> Lex(std::string const& text, std::vector<std::size_t> const& cuts = {}) {
+    Recorder recorder;
+    TimeLexer lexer(recorder);
+    lexer.Start();
+    std::size_t from = 0;
+    for (std::size_t cut : cuts) {
+        lexer.Receive(ConstData(text.data() + from, text.data() + cut));
+        from = cut;
+    }
+    lexer.Receive(ConstData(text.data() + from, text.data() + text.size()));
+    lexer.ReceiveEnd();
+    return recorder.tokens;
+}
+
+}  // namespace
+
+TEST(TimeLexer, ReservedWordsAreSortedAndComplete) {
+    auto const table = TimeLexer::ReservedWords();
+    ASSERT_EQ(table.end - table.start, 54);
+    for (auto const* entry = table.start + 1; entry != table.end; ++entry)
+        EXPECT_LT(Compare(ConstData(entry[-1].word), ConstData(entry->word)), 0) << entry->word;
+    // Every word is found, in any case, with its own part of speech and value.
+    for (auto const* entry = table.start; entry != table.end; ++entry) {
+        std::string upper = entry->word;
+        for (char& c : upper) c = static_cast<char>(c - 'a' + 'A');
+        std::string const expected = "word " + std::to_string(entry->action.part) + " " +
+                                     std::to_string(entry->action.value);
+        EXPECT_EQ(Lex(entry->word)[1], expected);
+        EXPECT_EQ(Lex(upper)[1], expected);
+    }
+}
+
+TEST(TimeLexer, TokensByTheClassOfTheirFirstByte) {
+    using V = std::vector<std::string>;
+    struct {
+        char const* text;
+        V tokens;
+    } const cases[] = {
+        {"", {"reset", "end 0"}},
+        {"04Mar2000", {"reset", "2:4", "word 1 3", "4:2000", "end 9"}},
+        {" 7:05 ", {"reset", "1:7", "char :", "2:5", "end 6"}},
+        {"June", {"reset", "overflow", "end 4"}},
+        {"Monday,", {"reset", "overflow", "char ,", "end 7"}},
+        {"abc j", {"reset", "ordinary abc", "ordinary j", "end 5"}},
+        {"12345 0099999", {"reset", "numeral", "numeral", "end 13"}},
+        {"+-;\x80", {"reset", "char +", "char -", "char ;", "char \x80", "end 4"}},
+        {"\t\r\n005", {"reset", "3:5", "end 6"}},
+    };
+    for (auto const& c : cases) EXPECT_EQ(Lex(c.text), c.tokens) << c.text;
+}
+
+TEST(TimeLexer, ChunkingDoesNotChangeTheTokens) {
+    std::mt19937 random(3);
+    char const alphabet[] = "aZm09 ,:+-x\t";
+    for (int i = 0; i < 3000; ++i) {
+        std::string text;
+        std::size_t const length = random() % 24;
+        for (std::size_t j = 0; j < length; ++j) text += alphabet[random() % (sizeof alphabet - 1)];
+        std::vector<std::size_t> cuts;
+        for (std::size_t at = 0; at <= text.size(); ++at)
+            if (random() % 3 == 0) cuts.push_back(at);
+        ASSERT_EQ(Lex(text, cuts), Lex(text)) << text;
+    }
+}
