@@ -1,0 +1,13 @@
+#pragma once
+// The failures of reading an XML element tree. None carries data; what() gives the class name.
+
+#include "threads/DebuggableException.h"
+
+// Throws from XMLElement::GetChildElement when no child has the wanted name.
+class NoSuchChildElement : public DebuggableException {};
+
+// Throws from XMLElement::GetAttribute when the element has no attribute of the wanted name.
+class NoSuchAttribute : public DebuggableException {};
+
+// Throws from SimpleXML::Parse when the text held no element at all.
+class FormatError : public DebuggableException {};
