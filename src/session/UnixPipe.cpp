@@ -101,13 +101,20 @@ bool UnixPipe::Start(int readDescriptor, int writeDescriptor) {
 void UnixPipe::Kill() {
     AccessLocker locker(m_killLock);
     if (m_killed) return;
-    if (m_writeDescriptor != 0) {
-        close(m_writeDescriptor);
-        m_writeDescriptor = 0;
-    }
+    CloseWriteDescriptor();
     if (m_writeThread) m_writeThread->Abandon();
     if (m_readThread) m_readThread->Abandon();
     m_killed = true;
+}
+
+void UnixPipe::CloseWriteDescriptor() {
+    if (m_writeDescriptor == 0) return;
+    if (m_writing) {
+        m_closePending = true;
+        return;
+    }
+    close(m_writeDescriptor);
+    m_writeDescriptor = 0;
 }
 
 bool UnixPipe::Killed() const {
@@ -148,11 +155,6 @@ int UnixPipe::ReadDescriptor() const {
     return m_readDescriptor;
 }
 
-int UnixPipe::WriteDescriptor() const {
-    AccessLocker locker(m_killLock);
-    return m_writeDescriptor;
-}
-
 void UnixPipe::ReadExactly(unsigned char* into, unsigned long size) {
     int descriptor = ReadDescriptor();
     while (size != 0) {
@@ -182,7 +184,25 @@ void UnixPipe::ReadMessageFromPipe(UIMessage& message) {
 void UnixPipe::WriteMessageToPipe(UIMessage& message) {
     uint32_t length = static_cast<uint32_t>(message.Length());
     if (length == 0) return;
-    int descriptor = WriteDescriptor();
+    int descriptor;
+    {
+        AccessLocker locker(m_killLock);
+        if (m_writeDescriptor == 0) throw UnixPipeWriteMessageError();
+        descriptor = m_writeDescriptor;
+        m_writing = true;
+    }
+    // Marks the write as over, and performs a close that a Kill asked for meanwhile.
+    struct WriteEnd {
+        UnixPipe& pipe;
+        ~WriteEnd() {
+            AccessLocker locker(pipe.m_killLock);
+            pipe.m_writing = false;
+            if (pipe.m_closePending) {
+                pipe.m_closePending = false;
+                pipe.CloseWriteDescriptor();
+            }
+        }
+    } writeEnd{*this};
     if (write(descriptor, &length, sizeof length) != static_cast<ssize_t>(sizeof length))
         throw UnixPipeWriteMessageError();
     if (write(descriptor, message.m_text.begin, length) != static_cast<ssize_t>(length))

@@ -62,9 +62,11 @@ private:
     PortableThread* ReadThread() const;
     PortableThread* WriteThread() const;
     int ReadDescriptor() const;
-    int WriteDescriptor() const;
     // Reads exactly size bytes; throws UnixPipeReadMessageError at end of stream.
     void ReadExactly(unsigned char* into, unsigned long size);
+    // Closes the write descriptor unless a write is in progress on it, in which case the write
+    // thread closes it as soon as that write returns. Call under the kill lock.
+    void CloseWriteDescriptor();
 
     bool m_killed = false;
     PortableThread* m_readThread = nullptr;
@@ -76,6 +78,10 @@ private:
     UIMessageQueue& m_readQueue;
     UIMessageQueue& m_writeQueue;
     mutable AccessLock m_killLock;
+    // Under the kill lock: the write thread is inside write() on the descriptor, and a Kill
+    // that came meanwhile left the close to it, so that no descriptor is closed under a write.
+    bool m_writing = false;
+    bool m_closePending = false;
     uint32_t m_referenceCount = 0;
     AccessLock m_referenceLock;
 };
