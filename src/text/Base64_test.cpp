@@ -94,14 +94,12 @@ TEST(Base64, DecodingSkipsEveryByteOutsideTheAlphabet) {
     } const cases[] = {
         {"Y Q\n= =", "a"},
         {"\r\nZm9v\r\nYmFy\r\n", "foobar"},
-        {"Zm9vYmFy====", "foobar"},
-        {"Z!m@9#v$", "foo"},
-        {"=Zm=9v=", "foo"},
+        {"=Zm=9v====", "foo"},
         {"Y", ""},          // six bits make no byte
         {"YQ", "a"},        // padding is not needed
         {"YWJjZ", "abc"},   // the bits of the lone "Z" are dropped
         {"YQ=x", "a\x0c"},  // "=" is skipped, so "x" goes on from the bits that "Q" left
-        {std::string("\xff\x80Zg\0", 5), "f"},
+        {std::string("\xff\x80Z!g\0", 6), "f"},
     };
     for (auto const& c : cases) {
         EXPECT_EQ(Text(Base64Decode(c.text)), c.bytes) << c.text;
@@ -131,27 +129,15 @@ TEST(Base64, RandomBytesSurviveAnyChunkingOfTheFilters) {
     }
 }
 
-TEST(Base64, FiltersRaiseDataOverflowWhenACharacterCannotFit) {
+TEST(Base64, EncoderFlushNeedsRoomForTheWholePaddedTail) {
     // "a" leaves 2 bits after "Y": the tail "Q==" needs three bytes at once.
     Base64Encoder encoder;
     unsigned char space[2];
     Buffer out(space, space + 1);
     encoder(ConstData("a"), out);
-    EXPECT_EQ(out.cursor, space + 1);
     Buffer small(space, space + 2);
     EXPECT_THROW(encoder.Flush(small), DataOverflow);
     EXPECT_FALSE(encoder.Flushed());
-
-    // A character that completes a byte finds the output already full.
-    Base64Decoder decoder;
-    ConstBuffer in(ConstData("YWJj"));
-    Buffer full(space, space);
-    EXPECT_THROW(decoder(in, full), DataOverflow);
-    // The decoder returns as soon as the output fills, leaving the rest unread.
-    Buffer one(space, space + 1);
-    decoder(in, one);
-    EXPECT_EQ(space[0], 'a');
-    EXPECT_EQ(in.Remaining(), ConstData("Jj"));
 }
 
 TEST(Base64EncodingLineMaker, LinesOf64CharactersDecodeBackInAnyChunking) {
@@ -165,24 +151,18 @@ TEST(Base64EncodingLineMaker, LinesOf64CharactersDecodeBackInAnyChunking) {
         StartReceiveAndEnd(encoder, bytes);
 
         // Full lines of 64, then a last line of what remains, possibly empty, and its break.
-        std::string const expected = Base64Encode(bytes);
-        std::string joined;
-        for (std::size_t at = 0; at < text.size();) {
-            std::size_t const lineEnd = text.find('\n', at);
-            ASSERT_NE(lineEnd, std::string::npos);
-            ASSERT_EQ(lineEnd - at, std::min<std::size_t>(64, expected.size() - joined.size()));
-            joined += text.substr(at, lineEnd - at);
-            at = lineEnd + 1;
-        }
-        EXPECT_EQ(joined, expected);
-        EXPECT_EQ(text.size(), expected.size() + expected.size() / 64 + 1);
+        std::string const encoded = Base64Encode(bytes);
+        std::string expected;
+        std::size_t at = 0;
+        for (; at + 64 <= encoded.size(); at += 64) expected += encoded.substr(at, 64) + "\n";
+        EXPECT_EQ(text, expected + encoded.substr(at) + "\n");
 
         std::vector<unsigned char> decoded;
         VectorAppender appender(decoded);
         Base64DecodingDataMaker decoder(appender);
         LineMaker lineMaker(decoder);
         lineMaker.Start();
-        for (std::size_t at = 0; at < text.size();) {
+        for (at = 0; at < text.size();) {
             std::size_t piece = std::min<std::size_t>(1 + random() % 100, text.size() - at);
             lineMaker.Receive(ConstData(text.data() + at, piece));
             at += piece;

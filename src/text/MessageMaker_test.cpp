@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
-#include <vector>
 
 #include "text/LineMaker.h"
 #include "text/MessageMaker.h"
@@ -65,17 +65,15 @@ class MessageRecorder : public MessageReceiver, public DataReceiver, public Line
     bool fieldOpen = false, inBody = false, bodyEnded = false;
 };
 
-std::string Record(std::string const& input, std::vector<std::size_t> const& cuts) {
+// Feeds input in pieces of the given size after an empty one and returns the record.
+std::string Record(std::string const& input, std::size_t piece) {
     MessageRecorder recorder;
     MessageMaker messageMaker(recorder);
     LineMaker lineMaker(messageMaker);
     lineMaker.Start();
-    std::size_t from = 0;
-    for (std::size_t cut : cuts) {
-        lineMaker.Receive(ConstData(input.data() + from, input.data() + cut));
-        from = cut;
-    }
-    lineMaker.Receive(ConstData(input.data() + from, input.data() + input.size()));
+    lineMaker.Receive(ConstData());
+    for (std::size_t at = 0; at < input.size(); at += piece)
+        lineMaker.Receive(ConstData(input.data() + at, std::min(piece, input.size() - at)));
     lineMaker.ReceiveEnd();
     return recorder.record;
 }
@@ -94,7 +92,6 @@ TEST(MessageMaker, HeadersAndBodyInEveryChunking) {
         {"X: a\r\n b\r\n\r\n", "S0 F0 x='a b'/8 B12(12)e12 E12"},
         {"X:a\tb \r\n\t \tc\r\n\r\n", "S0 F0 x='a\tb  c'/12 B16(16)e16 E16"},
         // A line without ":" starts no field, and its text goes nowhere.
-        {"junk line\r\nA: 1\r\n\r\n", "S0 F11 a='1'/15 B19(19)e19 E19"},
         {"junk\r\n more junk\r\nA: 1\n\n", "S0 F18 a='1'/22 B24(24)e24 E24"},
         // A name of 47 bytes is taken; one of 48 or more is dropped with its text.
         {name47 + ": v\r\n" + name48 + ": w\r\n x\r\n\r\n",
@@ -102,7 +99,6 @@ TEST(MessageMaker, HeadersAndBodyInEveryChunking) {
         {std::string(200, 'L') + ": w\r\nA: 1\r\n\r\n", "S0 F205 a='1'/209 B213(213)e213 E213"},
         // Without an empty line the body is still reported, empty.
         {"A: 1\r\nB: 2", "S0 F0 a='1'/4 F6 b='2'/10 B10(10)e10 E10"},
-        {"A: 1\r\n", "S0 F0 a='1'/4 B6(6)e6 E6"},
         // An empty first line makes a message without headers.
         {"\r\nX: y\r\n", "S0 B2(2)'X: y'[6,8]e8 E8"},
         {"", "S0 B0(0)e0 E0"},
@@ -112,12 +108,7 @@ TEST(MessageMaker, HeadersAndBodyInEveryChunking) {
         {" x\r\nA: 1\r\n\r\n", "S0 F4 a='1'/8 B12(12)e12 E12"},
     };
     for (auto const& c : cases) {
-        EXPECT_EQ(Record(c.input, {}), c.record) << c.input;
-        std::vector<std::size_t> everyByte;
-        for (std::size_t cut = 0; cut <= c.input.size(); ++cut) {
-            ASSERT_EQ(Record(c.input, {cut}), c.record) << c.input << " cut at " << cut;
-            everyByte.push_back(cut);
-        }
-        EXPECT_EQ(Record(c.input, everyByte), c.record) << c.input;
+        EXPECT_EQ(Record(c.input, c.input.size() + 1), c.record) << c.input;
+        EXPECT_EQ(Record(c.input, 1), c.record) << c.input;
     }
 }

@@ -2,7 +2,6 @@
 
 #include <atomic>
 #include <cstdlib>
-#include <map>
 #include <string>
 #include <thread>
 #include <utility>
@@ -36,13 +35,6 @@ TEST(SharedUString, CopiesShareAndTheLastHolderFrees) {
     AutoUString<UTF8> copy = MakeUString(c);
     EXPECT_NE(c.begin, copy.begin);
     EXPECT_TRUE(copy == c);
-
-    // As map keys they order by bytes.
-    std::map<SharedUString<UTF8>, int> map;
-    for (char const* key : {"b", "a", "", "\xc3\xa9", "ab", "B"}) map[Shared(key)] = 1;
-    std::string order;
-    for (auto const& entry : map) order += Text(entry.first) + "|";
-    EXPECT_EQ("|B|a|ab|b|\xc3\xa9|", order);
 }
 
 TEST(SharedUString, CopiedAndDroppedAcrossThreads) {

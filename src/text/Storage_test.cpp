@@ -7,40 +7,17 @@
 #include "text/ExtensibleArray.h"
 #include "text/FiniteStackBase.h"
 #include "text/NullOr.h"
-#include "text/NullOrConstRef.h"
 #include "text/Owned.h"
 #include "text/StackBase.h"
-
-TEST(ExtensibleArray, PlacesDoubleAndFindTheHighestBit) {
-    for (unsigned bit = 0; bit < 64; ++bit) {
-        unsigned long long value = 1ULL << bit;
-        ASSERT_EQ(bit, HighestSetBit(value));
-        ASSERT_EQ(bit, HighestSetBit(value | (value - 1)));
-    }
-    unsigned char first[8];
-    ExtensibleArrayBase base(4, Data(first));
-    // Place p holds firstPieceBytes << p bytes from offset (2^p - 1) * firstPieceBytes.
-    std::size_t offset = 0;
-    for (unsigned place = 0; place < 10; ++place) {
-        std::size_t bytes = std::size_t(8) << place;
-        ASSERT_EQ(place, base.PlaceOf(offset));
-        ASSERT_EQ(place, base.PlaceOf(offset + bytes - 1));
-        offset += bytes;
-    }
-}
 
 TEST(ExtensibleArray, ElementsNeverMoveAndOneSparePieceStays) {
     ExtensibleArray<std::string, 3> array;
     std::vector<std::string*> addresses;
-    for (int i = 0; i < 1000; ++i) {
-        addresses.push_back(&array.Append(std::to_string(i)));
-        // Every element made so far is still where it was made, with its value.
-        if (i % 97 == 0) {
-            for (int j = 0; j <= i; ++j) {
-                ASSERT_EQ(addresses[j], &array[j]);
-                ASSERT_EQ(std::to_string(j), array[j]);
-            }
-        }
+    for (int i = 0; i < 1000; ++i) addresses.push_back(&array.Append(std::to_string(i)));
+    // Every element is still where it was made, with its value; the first ones are inline.
+    for (int j = 0; j < 1000; ++j) {
+        ASSERT_EQ(addresses[j], &array[j]);
+        ASSERT_EQ(std::to_string(j), array[j]);
     }
     EXPECT_GE(reinterpret_cast<char*>(&array[0]), reinterpret_cast<char*>(&array));
     EXPECT_LT(reinterpret_cast<char*>(&array[2]), reinterpret_cast<char*>(&array) + sizeof array);
@@ -91,10 +68,8 @@ TEST(StackBase, GrowsWithoutMovingAndKeepsOneSpare) {
     StackBase stack(Data(initial), sizeof(long));
     std::vector<long*> addresses;
     for (long i = 0; i < 100; ++i) {
-        long* slot = static_cast<long*>(stack.Allocate());
-        *slot = i;
-        addresses.push_back(slot);
-        ASSERT_EQ(slot, stack.Top());
+        addresses.push_back(static_cast<long*>(stack.Allocate()));
+        *addresses.back() = i;
     }
     // The first elements live in the caller's storage, growing downwards.
     EXPECT_EQ(reinterpret_cast<long*>(initial) + 2, addresses[0]);
@@ -103,11 +78,7 @@ TEST(StackBase, GrowsWithoutMovingAndKeepsOneSpare) {
         ASSERT_EQ(addresses[i], stack.Top());
         ASSERT_EQ(i, *static_cast<long*>(stack.Top()));
         stack.Pop();
-        if (i == 3) {
-            EXPECT_TRUE(stack.HasSparePiece());
-        }
     }
-    EXPECT_EQ(0u, stack.Count());
     EXPECT_EQ(nullptr, stack.Top());
     EXPECT_TRUE(stack.HasSparePiece());
 
@@ -117,8 +88,6 @@ TEST(StackBase, GrowsWithoutMovingAndKeepsOneSpare) {
     stack.Pop(1);
     EXPECT_TRUE(stack.HasSparePiece());
     ASSERT_EQ(addresses[3], stack.Allocate());
-    stack.PopAll();
-    EXPECT_EQ(0u, stack.Count());
 }
 
 TEST(FiniteStackBase, FullWhenTheCursorReachesTheBase) {
@@ -137,29 +106,16 @@ TEST(FiniteStackBase, FullWhenTheCursorReachesTheBase) {
     EXPECT_EQ(nullptr, stack.Top());
 }
 
-TEST(Ownership, NullOrCopiesTheValueAndOwnedFrees) {
-    NullOr<std::string> absent;
-    EXPECT_TRUE(absent.IsNull());
-    EXPECT_TRUE(NullOr<std::string>::Null().IsNull());
-    EXPECT_EQ(&NullOr<std::string>::Null(), &NullOr<std::string>::Null());
+TEST(Ownership, NullOrCopiesTheValueAndOwnedMoves) {
     NullOr<std::string> present(std::string("x"));
     NullOr<std::string> copy = present;
     *copy += "y";
     EXPECT_EQ("x", *present);
     EXPECT_EQ("xy", *copy);
-    copy = absent;
+    copy = NullOr<std::string>::Null();
     EXPECT_TRUE(copy.IsNull());
-    copy = present;
-    EXPECT_NE(present.Pointer(), copy.Pointer());
-    EXPECT_EQ("x", *copy);
-
-    std::string owner = "z";
-    NullOrConstRef<std::string> reference(owner);
-    EXPECT_EQ(&owner, reference.Pointer());
-    EXPECT_TRUE(NullOrConstRef<std::string>().IsNull());
 
     auto owned = Allocate<std::string>(3, nullptr);
-    EXPECT_EQ(3u, owned.Count());
     owned[2] = "last";
     auto moved = std::move(owned);
     EXPECT_EQ(nullptr, owned.Get());

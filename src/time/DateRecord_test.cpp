@@ -54,9 +54,6 @@ TEST(DateRecord, KnownDaysAndLeapYears) {
     EXPECT_EQ(DateRecord(1, January, 1970).AbsoluteDay(), 719528u);
     EXPECT_EQ(DateRecord(1, January, 1970).DayOfWeek(), Thursday);
     EXPECT_EQ(DateRecord(4, March, 2000).DayOfWeek(), Saturday);
-    DateRecord zero;
-    zero.SetAbsoluteDay(0);
-    EXPECT_EQ(zero, DateRecord(1, January, 0));
 
     struct {
         unsigned long year;
@@ -131,11 +128,7 @@ TEST(DateRecord, MovingAndDifferencesAgreeWithOrder) {
 
 TEST(DateRecord, NamesOfMonthsAndDays) {
     EXPECT_STREQ(MonthToText(static_cast<Month>(0)), "");
-    EXPECT_STREQ(MonthToText(September), "Sep");
     EXPECT_STREQ(FullNameOfMonth(September), "September");
-    EXPECT_STREQ(MonthToTwoDigits(September), "09");
     EXPECT_STREQ(MonthToTwoDigits(December), "12");
-    EXPECT_STREQ(DayOfWeekToText(Wednesday), "Wed");
     EXPECT_STREQ(FullNameOfDayOfWeek(Wednesday), "Wednesday");
-    EXPECT_STREQ(FullNameOfDayOfWeek(Saturday), "Saturday");
 }

@@ -2,16 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <random>
 #include <string>
-#include <vector>
 
-#include "text/StackFull.h"
-#include "time/InvalidTime.h"
-#include "time/ParsingFailure.h"
-#include "time/TimeAutomaton.h"
-#include "time/TimeLexer.h"
-#include "time/TimeParser.h"
+#include "threads/DebuggableException.h"
 #include "time/TimeText.h"
 
 namespace {
@@ -22,23 +17,13 @@ TimeObject Reading(std::uint32_t year, Month month, std::uint8_t day, std::uint8
                       TimeZone(zone));
 }
 
-// Returns the name of the failure class that the call throws, or "none".
+// Returns the name of the class of the failure that the call throws, or "none".
 template <class Call>
 std::string Failure(Call call) {
     try {
         call();
-    } catch (ParsingFailure const&) {
-        return "ParsingFailure";
-    } catch (StackFull const&) {
-        return "StackFull";
-    } catch (NoSuchDate const&) {
-        return "NoSuchDate";
-    } catch (NoSuchTimeOfDay const&) {
-        return "NoSuchTimeOfDay";
-    } catch (WrongDayOfWeek const&) {
-        return "WrongDayOfWeek";
-    } catch (NoTimeZone const&) {
-        return "NoTimeZone";
+    } catch (DebuggableException const& failure) {
+        return failure.what();  // the demangled name of the class
     }
     return "none";
 }
@@ -70,8 +55,6 @@ TEST(TextToTime, ReadsTheFormsOfTheLanguage) {
         {"Sat, 01 Jan 0000 00:00:00 +0000", Reading(0, January, 1, 0, 0, 0, 0)},
     };
     for (auto const& c : cases) ExpectFields(TextToTime(ConstData(c.text)), c.expected, c.text);
-    EXPECT_EQ(MakeString(TimeToText(TextToTime("Sat, 04 Mar 2000 07:05:09 +0100"))),
-              "Sat, 04 Mar 2000 07:05:09 +0100");
 }
 
 TEST(TextToTime, FailsWithTheClassOfTheFault) {
@@ -86,7 +69,6 @@ TEST(TextToTime, FailsWithTheClassOfTheFault) {
         {"Sun, 31 Feb 2000 25:00 +0000", "NoSuchDate"},
         {"Sun, 04 Mar 2000 25:00 +0000", "NoSuchTimeOfDay"},
         {"04 Mar 2000 25:00:00 +0000", "NoSuchTimeOfDay"},
-        {"04 Mar 2000 07:60:00 +0000", "NoSuchTimeOfDay"},
         {"04 Mar 2000 07:05:60 +0000", "NoSuchTimeOfDay"},
         {"04 Mar 2000 7:05:09 +0000", "ParsingFailure"},
         {"04 March 2000 07:05:09 +0000", "ParsingFailure"},
@@ -94,22 +76,16 @@ TEST(TextToTime, FailsWithTheClassOfTheFault) {
         {"04 Mar 2000 07:05:09 +01", "ParsingFailure"},
         {"04 Mar 2000 07:05:09 +00000", "ParsingFailure"},
         {"04 Mar 2000 07:05:09 Z", "NoTimeZone"},
-        {"04 Mar 2000 07:05:09 a", "NoTimeZone"},
         {"04 Mar 2000 07:05:09", "NoTimeZone"},
         {"04 Mar 2000 07:05:09 +0000 x", "ParsingFailure"},
-        {"04 Mar 2000 07:05:09 +0000 +0000", "ParsingFailure"},
         {"04 Mar 2000 07:05:09 j", "ParsingFailure"},
-        {"04 Mar 2000 07:05:09 abc", "ParsingFailure"},
-        {"04 Mar 2000 07:05:09 +0000;", "ParsingFailure"},
         {"04 Mar 2000 07:05:09 \xc3\xa9", "ParsingFailure"},
         {"Sat 04 Mar 2000 07:05:09 +0000", "ParsingFailure"},
         {"04 Mar 12345 07:05:09 +0000", "ParsingFailure"},
-        {"04 Mar 2000", "ParsingFailure"},
         {"04 Mar 2000 07", "ParsingFailure"},
         {"04 Mar 2000 07:05:", "ParsingFailure"},
         {"2000 Mar 04 07:05:09 +0000", "ParsingFailure"},
         {"", "ParsingFailure"},
-        {"   ", "ParsingFailure"},
         {"1 2 3 4 5 6", "ParsingFailure"},
         {"1 2 3 4 5 6 7", "StackFull"},
         {"Mon Tue Wed Thu Fri Sat Sun", "StackFull"},
@@ -131,90 +107,57 @@ TEST(TextToTime, ConvertsIntoAGivenZoneOrReadsInIt) {
     EXPECT_EQ(Failure([] { TextToTime("31 Apr 2000 07:05:09", TimeZone()); }), "NoSuchDate");
 }
 
+// Over years 0 to 9999 and zones of either sign; the text also reads back with its blanks taken
+// out or widened wherever they do not keep two words apart, and with letters in either case.
 TEST(TextToTime, RandomReadingsRoundTripThroughTheirText) {
     std::mt19937_64 random(5);
     std::uniform_int_distribution<unsigned long> days(0, DateRecord::DaysBefore(10000) - 1);
-    std::uniform_int_distribution<unsigned long> seconds(0, 86399);
     std::uniform_int_distribution<std::int32_t> minutes(-5999, 5999);
+    char const* const blanks[] = {"", " ", "\t ", "\r\n"};
+    auto const alnum = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; };
     for (int i = 0; i < 20000; ++i) {
         TimeObject reading;
         reading.date.SetAbsoluteDay(days(random));
-        reading.timeOfDay.SetSecondOfDay(seconds(random));
-        reading.zone = TimeZone(minutes(random) * 60);
-        auto const text = TimeToText(reading);
-        TimeObject const back = TextToTime(text);
-        ASSERT_EQ(back.date, reading.date) << text.CString();
-        ASSERT_EQ(back.timeOfDay, reading.timeOfDay) << text.CString();
-        ASSERT_EQ(back.zone, reading.zone) << text.CString();
-    }
-}
-
-TEST(TextToTime, BlanksCaseAndChunkingDoNotMatter) {
-    std::mt19937 random(9);
-    std::uniform_int_distribution<unsigned long> days(0, DateRecord::DaysBefore(10000) - 1);
-    char const* const blanks[] = {"", " ", "\t ", "\r\n"};
-    for (int i = 0; i < 5000; ++i) {
-        TimeObject reading;
-        reading.date.SetAbsoluteDay(days(random));
         reading.timeOfDay.SetSecondOfDay(random() % 86400);
-        reading.zone = TimeZone((static_cast<std::int32_t>(random() % 2000) - 1000) * 60);
+        reading.zone = TimeZone(minutes(random) * 60);
         std::string const plain = MakeString(TimeToText(reading));
-        // Take the single blanks out or widen them, but keep apart what would run together.
-        std::string text;
+        std::string mangled;
         for (std::size_t j = 0; j < plain.size(); ++j) {
-            char c = plain[j];
+            char const c = plain[j];
             if (c == ' ') {
-                bool const needed = std::isalnum(static_cast<unsigned char>(plain[j - 1])) &&
-                                    std::isalnum(static_cast<unsigned char>(plain[j + 1]));
-                text += blanks[random() % 4];
-                if (needed &&
-                    (text.empty() || !std::isspace(static_cast<unsigned char>(text.back()))))
-                    text += ' ';
-                continue;
+                char const* const blank = blanks[random() % 4];
+                mangled += *blank == 0 && alnum(plain[j - 1]) && alnum(plain[j + 1]) ? " " : blank;
+            } else {
+                mangled += std::isalpha(static_cast<unsigned char>(c)) && random() % 2
+                               ? static_cast<char>(c ^ 0x20)
+                               : c;
             }
-            if (std::isalpha(static_cast<unsigned char>(c)) && random() % 2)
-                c = static_cast<char>(c ^ 0x20);
-            text += c;
         }
-        TimeAutomaton automaton;
-        TimeParser parser(automaton, TimeLanguage::TheGrammar());
-        TimeLexer lexer(parser);
-        lexer.Start();
-        for (std::size_t from = 0; from < text.size();) {
-            std::size_t const size = std::min<std::size_t>(1 + random() % 5, text.size() - from);
-            lexer.Receive(ConstData(text.data() + from, size));
-            from += size;
+        for (std::string const& text : {plain, mangled}) {
+            TimeObject const back = TextToTime(ConstData(text));
+            ASSERT_EQ(back.date, reading.date) << text;
+            ASSERT_EQ(back.timeOfDay, reading.timeOfDay) << text;
+            ASSERT_EQ(back.zone, reading.zone) << text;
         }
-        lexer.ReceiveEnd();
-        ASSERT_TRUE(parser.Accepted()) << text;
-        ASSERT_TRUE(automaton.Valid()) << text;
-        ASSERT_TRUE(automaton.hasZone) << text;
-        ASSERT_EQ(automaton.date, reading.date) << text;
-        ASSERT_EQ(automaton.timeOfDay, reading.timeOfDay) << text;
-        ASSERT_EQ(automaton.zone, reading.zone) << text;
     }
 }
 
-TEST(TextToDate, ReadsDatesAndChecksTheDay) {
+TEST(TextToTime, NarrowerFormsReadTheirPartOnly) {
     EXPECT_EQ(TextToDate("Sat, 04 Mar 2000"), DateRecord(4, March, 2000));
     EXPECT_EQ(TextToDate("4 mar 00"), DateRecord(4, March, 1900));
-    EXPECT_EQ(TextToDate("29 FEB 2000"), DateRecord(29, February, 2000));
     EXPECT_EQ(Failure([] { TextToDate("Sun, 04 Mar 2000"); }), "WrongDayOfWeek");
     EXPECT_EQ(Failure([] { TextToDate("Sun, 31 Apr 2000"); }), "NoSuchDate");
     EXPECT_EQ(Failure([] { TextToDate("04 Mar 2000 07:05"); }), "ParsingFailure");
     EXPECT_EQ(Failure([] { TextToDate("Mar 2000"); }), "ParsingFailure");
-}
 
-TEST(TextToTimeOfDay, TakesAOneDigitHour) {
+    // A time of day alone may have a one-digit hour.
     EXPECT_EQ(TextToTimeOfDay("7:05:09"), TimeOfDay(7, 5, 9));
     EXPECT_EQ(TextToTimeOfDay("23:59"), TimeOfDay(23, 59, 0));
     EXPECT_EQ(Failure([] { TextToTimeOfDay("24:00"); }), "NoSuchTimeOfDay");
     EXPECT_EQ(Failure([] { TextToTimeOfDay("7:5"); }), "ParsingFailure");
     EXPECT_EQ(Failure([] { TextToTimeOfDay("07:05 +0000"); }), "ParsingFailure");
     EXPECT_EQ(Failure([] { TextToTimeOfDay("007:05"); }), "ParsingFailure");
-}
 
-TEST(TextToZonedTimeOfDay, ReadsAndConvertsTheZone) {
     ZonedTimeOfDay const read = TextToZonedTimeOfDay("07:05:09 -0530");
     EXPECT_EQ(read.timeOfDay, TimeOfDay(7, 5, 9));
     EXPECT_EQ(read.zone, TimeZone(-19800));
@@ -224,7 +167,6 @@ TEST(TextToZonedTimeOfDay, ReadsAndConvertsTheZone) {
     ZonedTimeOfDay const assumed = TextToZonedTimeOfDay("23:00", TimeZone(3600));
     EXPECT_EQ(assumed.timeOfDay, TimeOfDay(23, 0, 0));
     EXPECT_EQ(assumed.zone, TimeZone(3600));
-    EXPECT_EQ(TextToZonedTimeOfDay("23:00 +0200", TimeZone(-3600)).timeOfDay, TimeOfDay(20, 0, 0));
     EXPECT_EQ(Failure([] { TextToZonedTimeOfDay("07:05 Z"); }), "NoTimeZone");
     EXPECT_EQ(Failure([] { TextToZonedTimeOfDay("07:05"); }), "NoTimeZone");
     EXPECT_EQ(Failure([] { TextToZonedTimeOfDay("07:61 +0000"); }), "NoSuchTimeOfDay");

@@ -44,22 +44,9 @@ TEST(TimeOfDay, WrapsAroundMidnightWithoutCarry) {
     EXPECT_TRUE(TimeOfDay(23, 59, 59).Valid());
 }
 
-TEST(TimeObject, CarriesIntoTheDate) {
-    ExpectSameFields(Reading(1999, December, 31, 23, 59, 59) + 1,
-                     Reading(2000, January, 1, 0, 0, 0));
-    ExpectSameFields(Reading(2000, January, 1, 0, 0, 0) - 1,
-                     Reading(1999, December, 31, 23, 59, 59));
-    ExpectSameFields(Reading(2000, March, 1, 7, 5, 9) + -86400,
-                     Reading(2000, February, 29, 7, 5, 9));
-    ExpectSameFields(Reading(2000, March, 1, 7, 5, 9) + 86400LL * 365,
-                     Reading(2001, March, 1, 7, 5, 9));
-    TimeObject defaulted;
-    ExpectSameFields(defaulted, Reading(1970, January, 1, 0, 0, 0));
-}
-
 TEST(TimeObject, InstantsOfKnownReadings) {
     EXPECT_EQ(Instant(Reading(1969, December, 31, 23, 59, 59)).Microseconds(), -1000000);
-    EXPECT_EQ(Instant(Reading(1970, January, 1, 0, 0, 0)).Microseconds(), 0);
+    ExpectSameFields(TimeObject(), Reading(1970, January, 1, 0, 0, 0));
     // 2000-03-04T07:05:09Z is 952153509 seconds after the epoch.
     EXPECT_EQ(Instant(Reading(2000, March, 4, 7, 5, 9)).Microseconds(), 952153509000000LL);
     EXPECT_EQ(Instant(Reading(2000, March, 4, 8, 5, 9, 3600)).Microseconds(), 952153509000000LL);
@@ -83,6 +70,7 @@ TEST(TimeObject, ReadingsOfRandomInstantsRoundTripInEveryZone) {
         ASSERT_EQ(reading.zone, zone);
         ASSERT_EQ(Instant(reading), instant);
         long long const step = steps(random);
+        ASSERT_TRUE((reading + step).Valid());
         ASSERT_EQ(Instant(reading + step), instant + TimeInterval(step * 1000000));
         ASSERT_EQ(Instant(reading - step), instant - TimeInterval(step * 1000000));
 
@@ -115,16 +103,13 @@ TEST(Clocks, AgreeWithTheSystemClock) {
     EXPECT_LE(now.Microseconds(), after);
     EXPECT_EQ(now.Microseconds() % 1000000, 0);
 
-    TimeObject const local = NowLocalTime();
-    EXPECT_EQ(local.zone, TimeZone::Local());
-    EXPECT_LE((Instant(local) - now).Microseconds(), 2000000);
+    EXPECT_EQ(NowLocalTime().zone, TimeZone::Local());
+    EXPECT_LE((Instant(NowLocalTime()) - now).Microseconds(), 2000000);
     TimeObject const gmt = NowGMT();
     EXPECT_EQ(gmt.zone, TimeZone());
     EXPECT_LE((Instant(gmt) - now).Microseconds(), 2000000);
-    DateRecord const today = Today(TimeZone(50400));
-    EXPECT_LE(today - gmt.date, 1);
-    EXPECT_GE(today - gmt.date, 0);
-
+    EXPECT_LE(Today(TimeZone(50400)) - gmt.date, 1);
+    EXPECT_GE(Today(TimeZone(50400)) - gmt.date, 0);
     TimeMark const first = TimeMark::Now();
     TimeMark const second = TimeMark::Now();
     EXPECT_LE((second - first).Microseconds(), 2000000);

@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdlib>
 #include <random>
+#include <sstream>
 #include <string>
-#include <vector>
 
 #include "text/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
@@ -21,287 +23,153 @@ std::string Str(UStringRef<UTF8> s) {
     return std::string(reinterpret_cast<char const*>(s.begin), s.Length());
 }
 
-// Keeps every piece apart and counts the stream's start and end.
-struct PieceRecorder : UTextReceiver<UTF8> {
-    std::vector<std::string> pieces;
+// Collects the bytes and counts the stream's starts and ends.
+struct Recorder : UTextReceiver<UTF8> {
+    std::string bytes;
     int starts = 0;
     int ends = 0;
     void Start(UTF8) override { ++starts; }
     void Receive(ConstArrayOf<UTF8::Unit> chunk) override {
-        pieces.emplace_back(reinterpret_cast<char const*>(chunk.begin), chunk.Count());
+        bytes.append(reinterpret_cast<char const*>(chunk.begin), chunk.Count());
     }
     void ReceiveEnd() override { ++ends; }
-    std::string All() const {
-        std::string s;
-        for (auto const& p : pieces) s += p;
-        return s;
+};
+
+// The line-end escapes exist behind a flag that no operation sets; a derived writer reaches them.
+struct TestWriter : XMLWriter {
+    TestWriter(UTextReceiver<UTF8>& out, bool lineEnds) : XMLWriter(out, NoLines) {
+        escapeLineEnds = lineEnds;
     }
 };
 
-// The document of a root `a` with attribute k="v", a child `b` holding "x" and an empty `c`.
-std::string SampleDocument(XMLWriter::XMLFormatStyle style) {
-    PieceRecorder out;
-    XMLWriter writer(out, style);
-    writer.BeginDocument(XMLWriter::WithEncoding);
-    writer.BeginElement("a");
-    writer.AddAttribute("k", U8("v"));
-    writer.BeginElement("b");
-    writer.WriteString(U8("x"));
-    writer.EndElement();
-    writer.BeginElement("c");
-    writer.EndElement();
-    writer.EndDocument();
-    EXPECT_EQ(out.starts, 1);
-    EXPECT_EQ(out.ends, 1);
-    return out.All();
+std::string Escaped(std::string const& input, bool inAttribute, bool lineEnds) {
+    Recorder out;
+    TestWriter writer(out, lineEnds);
+    inAttribute ? writer.AddAttribute("n", U8(input)) : writer.WriteString(U8(input));
+    return out.bytes;
 }
 
-TEST(XMLWriter, WritesTheSampleDocumentInEachStyle) {
-    EXPECT_EQ(SampleDocument(XMLWriter::IndentedLines),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-              "<a k=\"v\">\n"
-              "\t<b>x</b>\n"
-              "\t<c></c>\n"
-              "</a>");
-    EXPECT_EQ(SampleDocument(XMLWriter::PlainLines),
-              "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-              "<a k=\"v\">\n"
-              "<b>x</b>\n"
-              "<c></c>\n"
-              "</a>");
-    std::string const flat =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?><a k=\"v\"><b>x</b><c></c></a>";
-    EXPECT_EQ(SampleDocument(XMLWriter::NoLines), flat);
-    EXPECT_EQ(SampleDocument(static_cast<XMLWriter::XMLFormatStyle>(7)), flat);
-}
-
-TEST(XMLWriter, EscapesByteByByteAndSendsRunsWhole) {
+TEST(XMLWriter, EscapesTextAndAttributes) {
     struct Case {
+        bool lineEnds;
         std::string input;
         std::string asText;
         std::string asAttribute;
     } const cases[] = {
-        {"a<b", "a&lt;b", "a&lt;b"},
-        {"&>", "&amp;&gt;", "&amp;&gt;"},
-        {"say \"hi\"", "say \"hi\"", "say &quot;hi&quot;"},
-        {"it's", "it's", "it's"},
-        {"l1\r\nl2\n", "l1\r\nl2\n", "l1\r\nl2\n"},
-        {"\xc3\xa9\x01\x7f", "\xc3\xa9\x01\x7f", "\xc3\xa9\x01\x7f"},
-        {"&amp;", "&amp;amp;", "&amp;amp;"},
-        {"", "", ""},
+        {false, "a<b&>&amp;", "a&lt;b&amp;&gt;&amp;amp;", "a&lt;b&amp;&gt;&amp;amp;"},
+        {false, "\"it's\"", "\"it's\"", "&quot;it's&quot;"},
+        {false, "\r\n\xc3\xa9\x01\x7f", "\r\n\xc3\xa9\x01\x7f", "\r\n\xc3\xa9\x01\x7f"},
+        {true, "1\r\n<\"'", "1&#xd;&#xa;&lt;\"'", "1&#xd;&#xa;&lt;&quot;'"},
     };
     for (auto const& c : cases) {
-        PieceRecorder text;
-        XMLWriter textWriter(text, XMLWriter::NoLines);
-        textWriter.WriteString(U8(c.input));
-        EXPECT_EQ(text.All(), c.asText) << c.input;
-
-        PieceRecorder attribute;
-        XMLWriter attributeWriter(attribute, XMLWriter::NoLines);
-        attributeWriter.AddAttribute("n", U8(c.input));
-        EXPECT_EQ(attribute.All(), " n=\"" + c.asAttribute + "\"") << c.input;
+        EXPECT_EQ(Escaped(c.input, false, c.lineEnds), c.asText) << c.input;
+        EXPECT_EQ(Escaped(c.input, true, c.lineEnds), " n=\"" + c.asAttribute + "\"") << c.input;
     }
-    PieceRecorder runs;
-    XMLWriter writer(runs, XMLWriter::NoLines);
-    writer.WriteString(U8("abc<<de&"));
-    EXPECT_EQ(runs.pieces, (std::vector<std::string>{"abc", "&lt;", "&lt;", "de", "&amp;"}));
 }
 
-// The line-end escapes exist behind a flag that no operation sets; a derived writer reaches them.
-struct LineEndEscapingWriter : XMLWriter {
-    explicit LineEndEscapingWriter(UTextReceiver<UTF8>& out) : XMLWriter(out, NoLines) {
-        escapeLineEnds = 1;
+// Plays space-separated steps: "?n" begins the document with declaration n, "<a" begins element a,
+// "=k=v" adds an attribute, "'t" writes text, "[t" writes CDATA, ">" ends an element and "$" the
+// document. An empty name, value or text is passed as a null one.
+void Play(XMLWriter& w, std::string const& script) {
+    std::istringstream steps(script);
+    for (std::string step; steps >> step;) {
+        std::string const arg = step.substr(1);
+        std::string const key = arg.substr(0, arg.find('='));
+        std::string const value = key.size() < arg.size() ? arg.substr(key.size() + 1) : "";
+        auto const name = [](std::string const& s) { return s.empty() ? nullptr : s.c_str(); };
+        auto const text = [](std::string const& s) {
+            return s.empty() ? UStringRef<UTF8>() : U8(s);
+        };
+        if (step[0] == '?') w.BeginDocument(XMLWriter::EncodingDeclaration(std::atoi(arg.c_str())));
+        if (step[0] == '<') w.BeginElement(name(arg));
+        if (step[0] == '=') w.AddAttribute(name(key), text(value));
+        if (step[0] == '\'') w.WriteString(text(arg));
+        if (step[0] == '[') w.WriteCData(text(arg));
+        if (step[0] == '>') w.EndElement();
+        if (step[0] == '$') w.EndDocument();
     }
-};
-
-TEST(XMLWriter, LineEndEscapesOnlyBehindTheirFlag) {
-    PieceRecorder out;
-    LineEndEscapingWriter writer(out);
-    EXPECT_TRUE(writer.EscapeLineEnds());
-    writer.BeginElement("a");
-    writer.AddAttribute("k", U8("1\r\n2\"'"));
-    writer.WriteString(U8("x\ny\rz\"'"));
-    writer.EndElement();
-    EXPECT_EQ(out.All(), "<a k=\"1&#xd;&#xa;2&quot;'\">x&#xa;y&#xd;z\"'</a>");
-
-    PieceRecorder plain;
-    XMLWriter ordinary(plain, XMLWriter::NoLines);
-    EXPECT_FALSE(ordinary.EscapeLineEnds());
 }
 
-TEST(XMLWriter, PlacesLineFeedsByWhatCameLast) {
+TEST(XMLWriter, PlacesLineFeedsByStyleAndWhatCameLast) {
+    char const* const sample = "? <a =k=v <b 'x > <c > $";
+    std::string const flat =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?><a k=\"v\"><b>x</b><c></c></a>";
     struct Case {
-        char const* what;
-        void (*write)(XMLWriter&);
+        XMLWriter::XMLFormatStyle style;
+        std::string script;
         std::string bytes;
     } const cases[] = {
-        {"empty element stays on one line, never self-closed",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.EndElement();
-         },
-         "\n<a></a>"},
-        {"empty text gives the same bytes as nothing",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.WriteString(U8(""));
-             w.EndElement();
-         },
-         "\n<a></a>"},
-        {"text after an end tag starts a fresh line with no tabs",
-         [](XMLWriter& w) {
-             w.BeginElement("r");
-             w.BeginElement("a");
-             w.BeginElement("b");
-             w.EndElement();
-             w.WriteString(U8("t"));
-             w.EndElement();
-             w.EndElement();
-         },
-         "\n<r>\n\t<a>\n\t\t<b></b>\nt</a>\n</r>"},
-        {"a line feed inside text takes no indentation",
-         [](XMLWriter& w) {
-             w.BeginElement("r");
-             w.BeginElement("a");
-             w.WriteString(U8("1\n2"));
-             w.EndElement();
-             w.EndElement();
-         },
-         "\n<r>\n\t<a>1\n2</a>\n</r>"},
-        {"three open elements, innermost after text",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.BeginElement("b");
-             w.BeginElement("c");
-             w.WriteString(U8("x"));
-             w.EndDocument();
-         },
-         "\n<a>\n\t<b>\n\t\t<c>x</c>\n\t</b>\n</a>"},
-        {"three open elements, innermost just started",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.BeginElement("b");
-             w.BeginElement("c");
-             w.AddAttribute("k", U8("v"));
-             w.EndDocument();
-         },
+        // The empty element stays on one line and is never self-closed.
+        {XMLWriter::IndentedLines, sample,
+         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+         "<a k=\"v\">\n"
+         "\t<b>x</b>\n"
+         "\t<c></c>\n"
+         "</a>"},
+        {XMLWriter::PlainLines, sample,
+         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a k=\"v\">\n<b>x</b>\n<c></c>\n</a>"},
+        {XMLWriter::NoLines, sample, flat},
+        {XMLWriter::XMLFormatStyle(7), sample, flat},
+        {XMLWriter::NoLines, "?1 ?5 $", "<?xml version=\"1.0\"?><?xml version=\"1.0\"?>"},
+        // Empty text gives the same bytes as nothing.
+        {XMLWriter::IndentedLines, "<a ' >", "\n<a></a>"},
+        // Text after an end tag starts a fresh line with no tabs.
+        {XMLWriter::IndentedLines, "<r <a <b > 't > >", "\n<r>\n\t<a>\n\t\t<b></b>\nt</a>\n</r>"},
+        // The end of the document closes every open element, here three.
+        {XMLWriter::IndentedLines, "<a <b <c =k=v $",
          "\n<a>\n\t<b>\n\t\t<c k=\"v\"></c>\n\t</b>\n</a>"},
-        {"three open elements after a closed fourth",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.BeginElement("b");
-             w.BeginElement("c");
-             w.BeginElement("d");
-             w.EndElement();
-             w.EndDocument();
-         },
-         "\n<a>\n\t<b>\n\t\t<c>\n\t\t\t<d></d>\n\t\t</c>\n\t</b>\n</a>"},
-        {"CDATA is written unchanged, even when it ends the section early",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.WriteCData(U8("<x>]]>&"));
-             w.EndElement();
-         },
-         "\n<a><![CDATA[<x>]]>&]]></a>"},
-        {"null names and values are written as nothing",
-         [](XMLWriter& w) {
-             w.BeginElement(static_cast<char const*>(nullptr));
-             w.AddAttribute(static_cast<char const*>(nullptr), UStringRef<UTF8>());
-             w.WriteString(UStringRef<UTF8>());
-             w.WriteCData(UStringRef<UTF8>());
-             w.EndElement();
-         },
-         "\n< =\"\"><![CDATA[]]></>"},
-        {"an attribute after content lands in the content",
-         [](XMLWriter& w) {
-             w.BeginElement("a");
-             w.WriteString(U8("x"));
-             w.AddAttribute("k", U8("v"));
-             w.EndElement();
-         },
-         "\n<a>x k=\"v\"</a>"},
+        // CDATA is written unchanged, even when it ends the section early.
+        {XMLWriter::IndentedLines, "<a [<x>]]>& >", "\n<a><![CDATA[<x>]]>&]]></a>"},
+        // Null names, values and texts are written as empty ones.
+        {XMLWriter::IndentedLines, "< = ' [ >", "\n< =\"\"><![CDATA[]]></>"},
     };
     for (auto const& c : cases) {
-        PieceRecorder out;
-        XMLWriter writer(out, XMLWriter::IndentedLines);
-        c.write(writer);
-        EXPECT_EQ(out.All(), c.bytes) << c.what;
+        Recorder out;
+        XMLWriter writer(out, c.style);
+        Play(writer, c.script);
+        EXPECT_EQ(out.bytes, c.bytes) << c.script;
+        EXPECT_EQ(out.starts, std::count(c.script.begin(), c.script.end(), '?'));
+        EXPECT_EQ(out.ends, std::count(c.script.begin(), c.script.end(), '$'));
     }
-}
-
-TEST(XMLWriter, DeclarationsAndTheEndOfTheStream) {
-    PieceRecorder out;
-    XMLWriter writer(out, XMLWriter::NoLines);
-    writer.BeginDocument(XMLWriter::WithoutEncoding);
-    EXPECT_EQ(out.All(), "<?xml version=\"1.0\"?>");
-    writer.BeginDocument(static_cast<XMLWriter::EncodingDeclaration>(5));
-    writer.EndDocument();
-    EXPECT_EQ(out.All(), "<?xml version=\"1.0\"?><?xml version=\"1.0\"?>");
-    EXPECT_EQ(out.starts, 2);
-    EXPECT_EQ(out.ends, 1);
 }
 
 TEST(XMLWriter, WritesAWholeTreeValueFirstAttributesInOrder) {
     auto root = SimpleXML::Parse(U8("<r z=\"1\" a=\"&quot;\"><c>x</c>v<d></d></r>"));
-    PieceRecorder out;
+    Recorder out;
     XMLWriter writer(out, XMLWriter::IndentedLines);
     writer.WriteXMLElement(*root);
-    EXPECT_EQ(out.All(), "\n<r a=\"&quot;\" z=\"1\">v\n\t<c>x</c>\n\t<d></d>\n</r>");
+    EXPECT_EQ(out.bytes, "\n<r a=\"&quot;\" z=\"1\">v\n\t<c>x</c>\n\t<d></d>\n</r>");
 }
 
-// Trees whose names the parser reads back as written: letters, digits, a few punctuation bytes
-// and UTF-8 sequences. Values and attribute texts are any bytes at all.
-class RandomTrees {
-  public:
-    explicit RandomTrees(unsigned seed) : random(seed) {}
+// Any bytes at all, favouring those that the writer and the parser steer by.
+std::string RandomBytes(std::mt19937& random, unsigned maxLength) {
+    static char const steering[] = "<>&\"';]\r\n\t -/=?!#x";
+    std::string s(random() % (maxLength + 1), '\0');
+    for (char& c : s)
+        c = random() % 2 ? steering[random() % (sizeof steering - 1)] : char(random());
+    return s;
+}
 
-    XMLElement Make(int depth) {
-        XMLElement element(U8(Name()), Attributes());
-        if (random() % 3 != 0) element.AppendCharacters(U8(Bytes(12)));
-        int const children = depth > 0 ? static_cast<int>(random() % 4) : 0;
-        for (int i = 0; i < children; ++i) element.AddChildElement(Make(depth - 1));
-        return element;
-    }
+// A name the parser reads back as written: letters, digits, a few punctuation bytes and UTF-8.
+std::string RandomName(std::mt19937& random) {
+    static char const bytes[] = "abcXYZ_:.019\xc3\xa9";
+    std::string s(1 + random() % 6, ' ');
+    for (std::size_t i = 0; i < s.size(); ++i)
+        s[i] = bytes[random() % (i == 0 ? 8 : sizeof bytes - 1)];
+    return s;
+}
 
-    std::string Bytes(unsigned maxLength) {
-        std::string s;
-        unsigned const length = random() % (maxLength + 1);
-        for (unsigned i = 0; i < length; ++i) {
-            // Favour the bytes that the writer and the parser steer by.
-            static char const steering[] = "<>&\"';]\r\n\t -/=?!#x";
-            s += (random() % 2) ? steering[random() % (sizeof steering - 1)]
-                                : static_cast<char>(random() % 256);
-        }
-        return s;
-    }
-
-  private:
-    std::string Name() {
-        static char const first[] = "abcXYZ_:";
-        static char const rest[] = "abcXYZ_:.019";
-        std::string s(1, first[random() % (sizeof first - 1)]);
-        unsigned const length = random() % 6;
-        for (unsigned i = 0; i < length; ++i) {
-            if (random() % 8 == 0)
-                s += "\xc3\xa9";
-            else
-                s += rest[random() % (sizeof rest - 1)];
-        }
-        return s;
-    }
-
-    XMLElement::AttributeMap Attributes() {
-        XMLElement::AttributeMap map;
-        unsigned const count = random() % 4;
-        for (unsigned i = 0; i < count; ++i) {
-            map.insert_or_assign(SharedUString<UTF8>(MakeUString(U8(Name()))),
-                                 SharedUString<UTF8>(MakeUString(U8(Bytes(8)))));
-        }
-        return map;
-    }
-
-    std::mt19937 random;
-};
+XMLElement RandomTree(std::mt19937& random, int depth) {
+    XMLElement::AttributeMap attributes;
+    for (unsigned count = random() % 4; count > 0; --count)
+        attributes.insert_or_assign(SharedUString<UTF8>(MakeUString(U8(RandomName(random)))),
+                                    SharedUString<UTF8>(MakeUString(U8(RandomBytes(random, 8)))));
+    XMLElement element(U8(RandomName(random)), attributes);
+    if (random() % 3 != 0) element.AppendCharacters(U8(RandomBytes(random, 12)));
+    for (int children = depth > 0 ? random() % 4 : 0; children > 0; --children)
+        element.AddChildElement(RandomTree(random, depth - 1));
+    return element;
+}
 
 std::string Dump(XMLElement const& e) {
     std::string s = "<" + Str(e.name);
@@ -321,37 +189,19 @@ void AddIndentation(XMLElement& e, std::size_t depth) {
 }
 
 TEST(XMLWriter, ParserReadsBackWhatTheWriterWrote) {
-    RandomTrees trees(4711);
+    std::mt19937 random(4711);
     for (int round = 0; round < 400; ++round) {
-        XMLElement const original = trees.Make(3);
+        XMLElement const original = RandomTree(random, 3);
         for (auto style : {XMLWriter::NoLines, XMLWriter::IndentedLines}) {
             UStringBuilder<UTF8> out(16);
             XMLWriter writer(out, style);
             writer.BeginDocument(XMLWriter::WithEncoding);
             writer.WriteXMLElement(original);
             writer.EndDocument();
-            std::unique_ptr<XMLElement> const back = SimpleXML::Parse(out.Content());
             XMLElement expected = original;
             if (style == XMLWriter::IndentedLines) AddIndentation(expected, 0);
-            ASSERT_EQ(Dump(*back), Dump(expected)) << Str(out.Content());
+            ASSERT_EQ(Dump(*SimpleXML::Parse(out.Content())), Dump(expected)) << Str(out.Content());
         }
-    }
-}
-
-TEST(XMLWriter, CDataSectionsReadBackByteForByte) {
-    RandomTrees texts(99);
-    for (int round = 0; round < 2000; ++round) {
-        std::string text = texts.Bytes(30);
-        // What a section cannot hold: its own end, and NUL bytes, which the parser drops.
-        if (text.find("]]>") != std::string::npos || text.find('\0') != std::string::npos) continue;
-        UStringBuilder<UTF8> out(16);
-        XMLWriter writer(out, XMLWriter::IndentedLines);
-        writer.BeginDocument(XMLWriter::WithEncoding);
-        writer.BeginElement("a");
-        writer.WriteString(U8("<"));
-        writer.WriteCData(U8(text));
-        writer.EndDocument();
-        ASSERT_EQ(Str(SimpleXML::Parse(out.Content())->GetValue()), "<" + text);
     }
 }
 
