@@ -14,7 +14,7 @@
 #include "files/FileReader.h"
 #include "files/FileReadingLoop.h"
 #include "files/FileReadingPath.h"
-#include "files/FileTestDirectory.h"
+#include "testing/TemporaryDirectory.h"
 #include "files/FileWriter.h"
 #include "files/FileWritingPath.h"
 #include "files/ReadFile.h"
@@ -46,7 +46,7 @@ std::string RandomBytes(std::mt19937& random, std::size_t size) {
 
 }  // namespace
 
-class FileIO : public FileTestDirectory {};
+class FileIO : public TemporaryDirectory {};
 
 TEST_F(FileIO, OpeningRefusesWhatIsNotThere) {
     WriteText(Path("exists"), "x");
@@ -237,10 +237,10 @@ TEST_F(FileIO, FullDeviceIsDiskFull) {
 }
 
 // A small tmpfs of its own, so that the disk really fills.
-class FileIOOnSmallFileSystem : public FileTestDirectory {
+class FileIOOnSmallFileSystem : public TemporaryDirectory {
   protected:
     void SetUp() override {
-        FileTestDirectory::SetUp();
+        TemporaryDirectory::SetUp();
         m_mount = Path("small");
         MakeDirectory(m_mount);
         m_mounted = ::mount("tmpfs", m_mount.c_str(), "tmpfs", 0, "size=64k") == 0;
@@ -249,7 +249,7 @@ class FileIOOnSmallFileSystem : public FileTestDirectory {
         if (m_mounted) {
             ::umount2(m_mount.c_str(), MNT_DETACH);
         }
-        FileTestDirectory::TearDown();
+        TemporaryDirectory::TearDown();
     }
 
     std::string m_mount;

@@ -8,7 +8,7 @@
 #include "files/FileIOErrorClasses.h"
 #include "files/FileLocationFunctions.h"
 #include "files/FileNameErrors.h"
-#include "files/FileTestDirectory.h"
+#include "testing/TemporaryDirectory.h"
 #include "files/UnixFileInfo.h"
 
 TEST(FileLocation, FullPathNamesLoseTrailingSlashes) {
@@ -152,7 +152,7 @@ TEST(FileLocation, FixedPlaces) {
     EXPECT_FALSE(IsAbsolutePath(nullptr));
 }
 
-class FileLocationOnDisk : public FileTestDirectory {};
+class FileLocationOnDisk : public TemporaryDirectory {};
 
 TEST_F(FileLocationOnDisk, ReadOnlyBitsAndFreeSpace) {
     WriteText(Path("f"), "x");

@@ -11,7 +11,7 @@
 
 #include "files/FileIOErrorClasses.h"
 #include "files/FileItem.h"
-#include "files/FileTestDirectory.h"
+#include "testing/TemporaryDirectory.h"
 #include "files/FileTime.h"
 
 namespace {
@@ -32,7 +32,7 @@ std::vector<std::string> List(FileLocation const& directory, char const* wildcar
 
 }  // namespace
 
-class FileLoopTest : public FileTestDirectory {};
+class FileLoopTest : public TemporaryDirectory {};
 
 TEST_F(FileLoopTest, DanglingLinkIsSeenOnlyWhenTryingToGet) {
     WriteText(Path("file"), "x");

@@ -12,7 +12,7 @@
 #include "files/FileIOErrorClasses.h"
 #include "files/FileLoop.h"
 #include "files/FileMove.h"
-#include "files/FileTestDirectory.h"
+#include "testing/TemporaryDirectory.h"
 #include "files/UniqueFileLocation.h"
 
 namespace {
@@ -39,7 +39,7 @@ std::size_t CountEntries(std::string const& path) {
 
 }  // namespace
 
-class FileOperations : public FileTestDirectory {};
+class FileOperations : public TemporaryDirectory {};
 
 TEST_F(FileOperations, MoveOfATreeAcrossFileSystems) {
     std::string const other = MakeTree("/dev/shm");

@@ -8,7 +8,7 @@
 #include "files/FileDelete.h"
 #include "files/FileIOErrorClasses.h"
 #include "files/FileOperationsWithRetry.h"
-#include "files/FileTestDirectory.h"
+#include "testing/TemporaryDirectory.h"
 #include "files/FileWritingPath.h"
 #include "files/RetryPolicy.h"
 
@@ -51,7 +51,7 @@ long long MillisecondsSince(std::chrono::steady_clock::time_point start) {
 
 }  // namespace
 
-class FileRetry : public FileTestDirectory {};
+class FileRetry : public TemporaryDirectory {};
 
 TEST_F(FileRetry, SuccessAtOnceWritesNoLog) {
     WriteText(Path("a"), "content");

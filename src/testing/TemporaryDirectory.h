@@ -1,6 +1,6 @@
 #pragma once
-// For the tests of the file layer: a fresh directory under a given root for each test, removed
-// with everything in it by TearDown, so a failing test leaves nothing behind.
+// A test fixture that gives each test a fresh directory under a given root, removed with
+// everything in it by TearDown, so a failing test leaves nothing behind.
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -16,7 +16,7 @@
 #include "files/FileLocation.h"
 #include "files/FileLocationFunctions.h"
 
-class FileTestDirectory : public ::testing::Test {
+class TemporaryDirectory : public ::testing::Test {
   protected:
     void SetUp() override { m_root = MakeTree(RootParent()); }
     void TearDown() override {
