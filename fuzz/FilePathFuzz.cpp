@@ -7,11 +7,10 @@
 #include <cstring>
 #include <string>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLocation.h"
 #include "files/FileLocationFunctions.h"
 #include "files/FileName.h"
-#include "files/FileNameErrors.h"
 
 namespace {
 

@@ -5,9 +5,8 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "text/StackFull.h"
-#include "time/InvalidTime.h"
-#include "time/ParsingFailure.h"
+#include "text/BytesErrors.h"
+#include "time/TimeErrors.h"
 #include "time/TextToTime.h"
 #include "time/TimeText.h"
 

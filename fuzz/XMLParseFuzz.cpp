@@ -8,7 +8,7 @@
 #include "text/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
-#include "xml/XMLExceptions.h"
+#include "xml/XMLErrors.h"
 #include "xml/XMLWriter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(uint8_t const* data, size_t size) {

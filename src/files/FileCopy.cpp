@@ -4,7 +4,7 @@
 
 #include "files/FileCreate.h"
 #include "files/FileDelete.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLoop.h"
 #include "files/FileOperationsWithRetry.h"
 #include "files/FileReadingLoop.h"

@@ -5,7 +5,7 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/ThrowFileError.h"
 #include "files/UnixFileInfo.h"
 

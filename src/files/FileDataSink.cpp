@@ -1,6 +1,6 @@
 #include "files/FileDataSink.h"
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 
 void FileDataSink::Start() {
     if (!m_path) {

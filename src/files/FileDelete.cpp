@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLoop.h"
 #include "files/ThrowFileError.h"
 #include "files/UnixFileInfo.h"

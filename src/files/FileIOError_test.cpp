@@ -1,4 +1,4 @@
-#include "files/FileIOError.h"
+#include "files/FileErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,6 @@
 #include <cstring>
 #include <typeinfo>
 
-#include "files/FileIOErrorClasses.h"
 #include "files/FileLocationFunctions.h"
 #include "files/FileReader.h"
 #include "files/FileReadingPath.h"

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "files/FileDataSink.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileReader.h"
 #include "files/FileReadingLoop.h"
 #include "files/FileReadingPath.h"

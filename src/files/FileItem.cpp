@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileTime.h"
 #include "files/ReadFile.h"
 #include "files/RetryPolicy.h"

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/ThrowFileError.h"
 #include "files/UnixFileInfo.h"
 #include "text/Ascii.h"

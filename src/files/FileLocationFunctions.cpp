@@ -7,7 +7,7 @@
 #include <cstring>
 #include <limits>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/ThrowFileError.h"
 #include "text/LocaleConversion.h"
 

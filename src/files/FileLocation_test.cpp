@@ -5,9 +5,8 @@
 
 #include <string>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLocationFunctions.h"
-#include "files/FileNameErrors.h"
 #include "testing/TemporaryDirectory.h"
 #include "files/UnixFileInfo.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "files/AdviceFileTypes.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/WildCard.h"
 
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileItem.h"
 #include "testing/TemporaryDirectory.h"
 #include "files/FileTime.h"

@@ -5,7 +5,7 @@
 
 #include "files/FileCopy.h"
 #include "files/FileDelete.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/UnixFileInfo.h"
 
 namespace {

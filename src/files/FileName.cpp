@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "files/AdviceFileTypes.h"
-#include "files/FileNameErrors.h"
+#include "files/FileErrors.h"
 #include "files/WildCard.h"
 #include "text/Ascii.h"
 #include "text/LocaleConversion.h"

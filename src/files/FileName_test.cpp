@@ -5,7 +5,7 @@
 #include <random>
 #include <string>
 
-#include "files/FileNameErrors.h"
+#include "files/FileErrors.h"
 
 namespace {
 

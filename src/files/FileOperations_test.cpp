@@ -9,7 +9,7 @@
 #include "files/FileCopy.h"
 #include "files/FileCreate.h"
 #include "files/FileDelete.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLoop.h"
 #include "files/FileMove.h"
 #include "testing/TemporaryDirectory.h"

@@ -7,10 +7,7 @@
 #include "files/FileReader.h"
 #include "text/ConstData.h"
 #include "text/Range.h"
-#include "threads/DebuggableException.h"
-
-// The file ended before the loop's end position.
-class FileReadingLoopEndOfFileError : public DebuggableException {};
+#include "files/FileErrors.h"
 
 // The buffer and the path belong to the caller and must outlive the loop.
 class FileReadingLoop {

@@ -5,7 +5,7 @@
 
 #include <cerrno>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/Seek64.h"
 #include "files/ThrowFileError.h"
 #include "text/Ascii.h"

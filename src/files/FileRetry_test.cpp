@@ -6,7 +6,7 @@
 
 #include "files/FileCopy.h"
 #include "files/FileDelete.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileOperationsWithRetry.h"
 #include "testing/TemporaryDirectory.h"
 #include "files/FileWritingPath.h"

@@ -3,7 +3,7 @@
 // process holding a file for a moment: at most 8 attempts, with pauses of 16 milliseconds
 // doubling up to 1024 (2032 milliseconds in all).
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileRetryLog.h"
 #include "threads/MilliSecondSleep.h"
 

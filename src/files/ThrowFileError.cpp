@@ -2,7 +2,7 @@
 
 #include <cerrno>
 
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLocation.h"
 
 void ThrowMappedFileError(FileErrorColumn column, std::string const& first, int code) {

@@ -7,7 +7,7 @@
 
 #include "files/FileCreate.h"
 #include "files/FileDelete.h"
-#include "files/FileIOErrorClasses.h"
+#include "files/FileErrors.h"
 #include "files/FileLocationFunctions.h"
 #include "files/UnixFileInfo.h"
 

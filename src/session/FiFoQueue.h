@@ -4,8 +4,7 @@
 
 #include <utility>
 
-// Thrown when the first element of an empty queue is taken.
-struct FiFoQueueIsEmpty {};
+#include "session/SessionErrors.h"
 
 template <class T>
 class FiFoQueue {

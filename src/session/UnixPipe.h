@@ -5,14 +5,10 @@
 
 #include <cstdint>
 
+#include "session/SessionErrors.h"
 #include "session/UIMessageQueue.h"
 #include "threads/AccessLock.h"
 #include "threads/PortableThread.h"
-
-// Thrown by the read side at end of stream or on a frame that is too long.
-struct UnixPipeReadMessageError {};
-// Thrown by the write side on a short or failed write.
-struct UnixPipeWriteMessageError {};
 
 // Closes the descriptor it points to unless that is 0, and sets it to 0. Descriptor 0 is
 // therefore never closed by this class, deliberately: the agent owns the process's stdin.

@@ -9,10 +9,6 @@
 
 #include "text/ConstData.h"
 #include "text/FixedCapacityText.h"
-#include "threads/DebuggableException.h"
-
-class NotANumeral : public DebuggableException {};
-class NumeralTooLarge : public DebuggableException {};
 
 int TryReadAsciiDecimalNumeral(ConstData text, unsigned long long& result);
 // The 32-bit form: status 2 for a value above 0xFFFFFFFF.

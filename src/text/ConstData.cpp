@@ -164,3 +164,5 @@ Buffer& operator<<(Buffer& target, ConstBuffer& source) {
     source.cursor = rest.begin;
     return target;
 }
+
+ExceptionPL::ExceptionPL(ConstData text) : m_message(text.Chars(), text.Size()) {}

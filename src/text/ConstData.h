@@ -6,12 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "threads/DebuggableException.h"
-
-// A fixed capacity was too small for what was asked of it.
-class ConstDataCapacityExceeded : public DebuggableException {};
-// A writer of structured text into a Buffer ran out of space.
-class DataOverflow : public DebuggableException {};
+#include "text/BytesErrors.h"
 
 class Data;
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "text/ConstData.h"
-#include "text/ExceptionPL.h"
+#include "text/BytesErrors.h"
 
 namespace {
 

@@ -3,10 +3,7 @@
 // ReadReader (StreamHelpers.h) turns a reader into pushes for a receiver.
 
 #include "text/ConstData.h"
-#include "threads/DebuggableException.h"
-
-// A reader finished before it had filled all the space asked of it.
-class NoMoreData : public DebuggableException {};
+#include "text/StreamErrors.h"
 
 class DataReader {
   public:

@@ -5,7 +5,6 @@
 #include <cstddef>
 
 #include "text/ConstData.h"
-#include "text/StackFull.h"
 
 class FiniteStackBase {
   public:

@@ -8,7 +8,7 @@
 // surrogates and values up to 0x1FFFFF decode; only the encoders from UTF-32 check values. Bad
 // input raises InvalidTextEncoding; nothing is ever replaced or skipped.
 
-#include "text/InvalidTextEncoding.h"
+#include "text/UnicodeErrors.h"
 #include "text/UTextReceiver.h"
 
 // Exists for the pairs (UTF32, UTF8), (UTF32, UTF16), (UTF8, UTF32), (UTF16, UTF32) and

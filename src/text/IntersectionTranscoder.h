@@ -2,7 +2,7 @@
 // A transcoder between two encodings where the source's text is already valid target text:
 // every chunk is checked whole and then forwarded unchanged, with no staging and no copy.
 
-#include "text/InvalidTextEncoding.h"
+#include "text/UnicodeErrors.h"
 #include "text/UTextReceiver.h"
 
 // Exists for the pair (UTF8, USAscii). The target must outlive the transcoder.

@@ -6,14 +6,9 @@
 
 #include "text/FixedCapacityText.h"
 #include "text/UString.h"
-#include "threads/DebuggableException.h"
+#include "text/UnicodeErrors.h"
 
 namespace UnixPlatform {
-
-// Wide text that the locale can't express.
-class WideToMultiByteConvertError : public DebuggableException {};
-// Bytes that aren't valid in the locale.
-class MultiByteToWideConvertError : public DebuggableException {};
 
 // Returns the locale text as code points; the result is never null, an empty text gives a
 // non-null begin equal to end. Throws MultiByteToWideConvertError.

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "text/InvalidTextEncoding.h"
+#include "text/UnicodeErrors.h"
 #include "text/LocaleConversion.h"
 #include "text/MakeLocalString.h"
 #include "text/Transcode.h"

@@ -7,10 +7,6 @@
 #include <vector>
 
 #include "text/ConstData.h"
-#include "threads/DebuggableException.h"
-
-// A length so large that the length plus the terminating zero overflows.
-class StringyLengthTooLong : public DebuggableException {};
 
 class Stringy {
   public:

@@ -4,16 +4,9 @@
 
 #include <pthread.h>
 
-#include "threads/DebuggableException.h"
+#include "threads/ThreadErrors.h"
 
 namespace UnixPlatform {
-
-// A failed pthread call; carries the error number.
-class MutexError : public DebuggableException {
-public:
-    explicit MutexError(int error) : m_error(error) {}
-    int m_error;
-};
 
 class Mutex {
 public:

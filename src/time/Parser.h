@@ -11,7 +11,7 @@
 #include "text/ConstData.h"
 #include "text/StackBase.h"
 #include "time/Grammar.h"
-#include "time/ParsingFailure.h"
+#include "time/TimeErrors.h"
 
 template <class Language, class Semantics>
 class Parser {

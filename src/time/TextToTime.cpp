@@ -1,6 +1,6 @@
 #include "time/TextToTime.h"
 
-#include "time/InvalidTime.h"
+#include "time/TimeErrors.h"
 #include "time/TimeAutomaton.h"
 #include "time/TimeLexer.h"
 #include "time/TimeParser.h"

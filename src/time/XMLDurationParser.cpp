@@ -1,6 +1,6 @@
 #include "time/XMLDurationParser.h"
 
-#include "text/ExceptionPL.h"
+#include "text/BytesErrors.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "time/TimeObject.h"
 #include "time/TimeText.h"
 #include "time/TimeZone.h"
-#include "time/XMLDateTimeFailures.h"
+#include "time/TimeErrors.h"
 #include "time/XMLDurationParser.h"
 
 namespace {

@@ -10,9 +10,9 @@
 #include <string>
 
 #include "text/AsciiNumerals.h"
-#include "text/ExceptionPL.h"
+#include "text/BytesErrors.h"
 #include "time/TimeObject.h"
-#include "time/XMLDateTimeFailures.h"
+#include "time/TimeErrors.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "xml/SimpleXMLParse.h"
 
 #include "xml/SAXParser.h"
-#include "xml/XMLExceptions.h"
+#include "xml/XMLErrors.h"
 #include "xml/XMLTreeParser.h"
 
 namespace SimpleXML {

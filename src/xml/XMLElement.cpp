@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "xml/XMLExceptions.h"
+#include "xml/XMLErrors.h"
 
 XMLElement::XMLElement(UStringRef<UTF8> name, AttributeMap const& attributes)
     : name(MakeUString(name)), attributes(attributes) {}

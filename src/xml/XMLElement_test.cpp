@@ -5,7 +5,7 @@
 #include <string>
 
 #include "xml/SimpleXMLParse.h"
-#include "xml/XMLExceptions.h"
+#include "xml/XMLErrors.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 #pragma once
-// The failures of reading an XML element tree. None carries data; what() gives the class name.
+// Every way reading XML can fail. None carries data; what() gives the class name.
 
 #include "threads/DebuggableException.h"
 

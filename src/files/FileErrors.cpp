@@ -1,7 +1,9 @@
-#include "files/FileIOError.h"
+#include "files/FileErrors.h"
 
 #include <cstring>
 #include <typeinfo>
+
+#include "files/FileLocation.h"
 
 // The XSI form of strerror_r, which reports an unknown number as a failure. The C library
 // exports it under this name; <string.h> declares only the GNU form in this build.
@@ -80,3 +82,18 @@ char const* FileIOError::what() const noexcept {
         return typeid(*this).name();
     }
 }
+
+FileNotFoundError::FileNotFoundError(FileLocation const& location, int code)
+    : FileIOError(location.LogString(), code) {}
+FileNotFoundError::FileNotFoundError(UnixPlatform::FileLocation const& location, int code)
+    : FileIOError(location.LogString(), code) {}
+
+FileFoundError::FileFoundError(FileLocation const& location, int code)
+    : FileIOError(location.LogString(), code) {}
+FileFoundError::FileFoundError(UnixPlatform::FileLocation const& location, int code)
+    : FileIOError(location.LogString(), code) {}
+
+FileItemError::FileItemError(FileLocation const& location, int code)
+    : FileIOError(location.LogString(), code) {}
+FileItemError::FileItemError(UnixPlatform::FileLocation const& location, int code)
+    : FileIOError(location.LogString(), code) {}
