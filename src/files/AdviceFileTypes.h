@@ -2,8 +2,12 @@
 // The table of file extensions of the agent's content files that this program knows about. The
 // only content this program reads by type are translation files.
 
-#include "files/KetralFileType.h"
-
+// The kinds of the agent's own content files that this program tells apart by extension.
+// Unknown stands for every extension not in the table.
+enum KetralFileType {
+    UnknownKetralFileType = 0,
+    TranslationKetralFileType,
+};
 class AdviceFileTypes {
   public:
     // Returns the type of an extension given with its leading "." (".xlat"), ignoring ASCII

@@ -9,7 +9,7 @@
 #include "files/FileOperationsWithRetry.h"
 #include "files/FileReadingLoop.h"
 #include "files/FileReadingPath.h"
-#include "files/FileRetryLog.h"
+#include "files/RetryPolicy.h"
 #include "files/FileWriter.h"
 #include "files/FileWritingPath.h"
 #include "files/UnixFileInfo.h"

@@ -5,7 +5,7 @@
 #include <cerrno>
 
 #include "files/FileErrors.h"
-#include "files/FileTime.h"
+#include "files/UnixFileInfo.h"
 #include "files/ReadFile.h"
 #include "files/RetryPolicy.h"
 #include "files/ThrowFileError.h"

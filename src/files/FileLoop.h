@@ -9,7 +9,7 @@
 
 #include "files/FileItem.h"
 #include "files/FileLocation.h"
-#include "files/KetralFileType.h"
+#include "files/AdviceFileTypes.h"
 #include "threads/DebuggableException.h"
 
 namespace UnixPlatform {

@@ -12,7 +12,7 @@
 #include "files/FileErrors.h"
 #include "files/FileItem.h"
 #include "testing/TemporaryDirectory.h"
-#include "files/FileTime.h"
+#include "files/UnixFileInfo.h"
 
 namespace {
 

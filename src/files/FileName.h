@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "files/KetralFileType.h"
+#include "files/AdviceFileTypes.h"
 #include "files/PathStorage.h"
 #include "text/ConstData.h"
 #include "text/UString.h"

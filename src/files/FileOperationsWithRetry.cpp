@@ -41,3 +41,11 @@ void ForceNonexistenceWithRetry(FileLocation const& path, FileRetryLog const& lo
     RunWithRetry("ForceNonexistence", &path, nullptr, log, EmptyLocationRetry::passAtOnce,
                  [&] { ForceNonexistence(path); });
 }
+
+FileRetryLog::~FileRetryLog() = default;
+
+void FileRetryLog::LogRetrySuccess(char const*, FileLocation const*, FileLocation const*,
+                                   unsigned long) const {}
+
+void FileRetryLog::LogRetryFailure(char const*, FileLocation const*, FileLocation const*,
+                                   unsigned long) const {}

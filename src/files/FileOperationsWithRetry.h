@@ -4,7 +4,7 @@
 // name less "WithRetry". An empty location fails at once.
 
 #include "files/FileLocation.h"
-#include "files/FileRetryLog.h"
+#include "files/RetryPolicy.h"
 
 // Throw what the last of at most 8 attempts threw.
 void CopyFileWithRetry(FileLocation const& from, FileLocation const& to, FileRetryLog const& log);

@@ -1,11 +1,24 @@
 #pragma once
 // The retry policy of the file operations that survive passing failures, such as another
 // process holding a file for a moment: at most 8 attempts, with pauses of 16 milliseconds
-// doubling up to 1024 (2032 milliseconds in all).
+// doubling up to 1024 (2032 milliseconds in all), and the log it reports to.
 
 #include "files/FileErrors.h"
-#include "files/FileRetryLog.h"
-#include "threads/MilliSecondSleep.h"
+#include "threads/PortableThread.h"
+
+class FileLocation;
+
+class FileRetryLog {
+  public:
+    virtual ~FileRetryLog();
+    // Called when the operation succeeded on attempt number attempts (2 or more). The locations
+    // may be null; operation is the name of the operation without "WithRetry".
+    virtual void LogRetrySuccess(char const* operation, FileLocation const* first,
+                                 FileLocation const* second, unsigned long attempts) const;
+    // Called once before the last failure is passed on, with the number of attempts made.
+    virtual void LogRetryFailure(char const* operation, FileLocation const* first,
+                                 FileLocation const* second, unsigned long attempts) const;
+};
 
 // Whether an EmptyFileLocationError passes at once, with no retry and no log: a caller's error
 // doesn't get better by waiting.

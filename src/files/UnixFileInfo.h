@@ -1,10 +1,17 @@
 #pragma once
-// FileStats with accessors: what kind of thing stands at a path and its times.
+// FileStats with accessors: what kind of thing stands at a path and its times. File times are
+// whole seconds of the Unix clock; they convert to and from Instant through 64-bit microseconds.
 
 #include <cstdint>
 
 #include "files/FileStats.h"
 #include "time/Instant.h"
+
+// Returns the whole seconds of the instant, rounded down, so that a time before 1970 stays at or
+// before the instant.
+long long InstantToFileTime(Instant const& time);
+// Returns the instant of a file time in seconds.
+Instant FileTimeToInstant(long long const& seconds);
 
 namespace UnixPlatform {
 

@@ -5,8 +5,7 @@
 #include <cerrno>
 #include <memory>
 
-#include "threads/MilliSecondSleep.h"
-#include "threads/ThreadKiller.h"
+#include "threads/PortableThread.h"
 
 PipeCloser::~PipeCloser() {
     if (*m_descriptor != 0) {

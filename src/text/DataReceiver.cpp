@@ -1,6 +1,5 @@
 #include "text/DataReceiver.h"
 
-#include "text/IgnoreDataReceiver.h"
 
 DataWriter& DataReceiver::operator<<(ConstData data) {
     Receive(data);

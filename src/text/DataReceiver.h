@@ -31,3 +31,12 @@ class DataReceiver : public DataWriter {
     // Returns the shared receiver that drops everything it is given.
     static DataReceiver& Ignore();
 };
+
+// A receiver that drops everything; DataReceiver::Ignore() gives the shared one.
+class IgnoreDataReceiver : public DataReceiver {
+  public:
+    using DataReceiver::Receive;
+    void Start() override {}
+    void Receive(ConstData) override {}
+    void ReceiveEnd() override {}
+};

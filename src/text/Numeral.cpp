@@ -1,6 +1,7 @@
 #include "text/Numeral.h"
 
 #include "text/Ascii.h"
+#include "text/AsciiNumerals.h"
 
 void Numeral::Make(unsigned long long magnitude, unsigned base) {
     m_cursor = digitsEnd;
@@ -39,4 +40,12 @@ Numeral::operator UStringRef<USAscii>() const {
 
 Numeral::operator unsigned char const*() const {
     return TextBegin() - 1;
+}
+
+unsigned long ReadUTF8DecimalNumeral(UStringRef<UTF8> text) {
+    return ReadAsciiDecimalNumeral(ConstData(text.begin, text.end));
+}
+
+unsigned long long ReadUTF8DecimalNumeral64(UStringRef<UTF8> text) {
+    return ReadAsciiDecimalNumeral64(ConstData(text.begin, text.end));
 }

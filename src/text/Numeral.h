@@ -1,6 +1,8 @@
 #pragma once
-// Digits of an integer in a buffer of the object's own, for any width and a base of 2 to 36;
-// no heap. A minus sign is written for a negative value only.
+// Numerals in typed text: Numeral writes the digits of an integer in a buffer of the object's
+// own, for any width and a base of 2 to 36, with no heap; the UTF-8 readers take decimal
+// numerals by the same rules as their ASCII twins: only the digits 0 to 9, no sign, blank or
+// prefix.
 
 #include <cstddef>
 #include <type_traits>
@@ -8,6 +10,7 @@
 #include "text/ConstData.h"
 #include "text/UString.h"
 
+// A minus sign is written for a negative value only.
 class Numeral {
   public:
     // Writes the digits of value in base (2 to 36; letters in lower case above 10).
@@ -59,3 +62,8 @@ class Numeral {
     bool m_showSign;
     unsigned char m_buffer[bufferSize];
 };
+
+// Returns the value; throws NotANumeral or NumeralTooLarge. Keeps to 32 bits.
+unsigned long ReadUTF8DecimalNumeral(UStringRef<UTF8> text);
+// Returns the value; throws NotANumeral or NumeralTooLarge.
+unsigned long long ReadUTF8DecimalNumeral64(UStringRef<UTF8> text);

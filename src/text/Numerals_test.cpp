@@ -8,7 +8,6 @@
 
 #include "text/AsciiNumerals.h"
 #include "text/Numeral.h"
-#include "text/UTF8Numerals.h"
 
 namespace {
 

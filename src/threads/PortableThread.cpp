@@ -1,11 +1,19 @@
 #include "threads/PortableThread.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 
 #include "threads/AtThreadExit.h"
-#include "threads/MilliSecondSleep.h"
 
 unsigned long const PortableThread::minimumStackSize = 0x80000;
+
+bool ThreadKiller::m_kill = false;
+
+void MilliSecondSleep(unsigned long ms) {
+    if (ms / 1000 != 0) sleep(static_cast<unsigned>(ms / 1000));
+    usleep(static_cast<useconds_t>((ms % 1000) * 1000));
+}
 
 namespace {
 

@@ -49,3 +49,13 @@ private:
     bool m_runToCompletion;
     pthread_t m_threadId = 0;
 };
+
+// A process-wide stop switch that long-running thread loops read. Nothing in this program sets
+// it; a library user may, to make the pipe loops end.
+struct ThreadKiller {
+    static bool m_kill;
+};
+
+// Sleeps ms milliseconds: whole seconds with sleep(), the remainder with usleep(). The plain
+// sleep of the pipe threads, the abandon handshake and the file retries.
+void MilliSecondSleep(unsigned long ms);

@@ -1,5 +1,6 @@
 #pragma once
-// Readings of the present moment.
+// Readings of the present moment; TimeZone::Local, the offset of the local zone now, is
+// defined with them.
 
 #include "time/DateRecord.h"
 #include "time/TimeObject.h"

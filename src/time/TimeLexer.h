@@ -8,8 +8,15 @@
 #include "time/Lexer.h"
 #include "time/ReservedWordLexeme.h"
 #include "time/TimeLanguage.h"
-#include "time/TimeLexemeAcceptor.h"
+#include "time/LexemeAcceptors.h"
 #include "time/TimeNumeralLexeme.h"
+
+// Everything the lexer of the time language delivers: reserved words, numerals, characters and
+// the end of the text.
+class TimeLexemeAcceptor : public ReservedWordAcceptor<TimeParsingAction>,
+                           public TimeNumeralLexemeAcceptor,
+                           public CharacterLexemeAcceptor,
+                           public EndLexemeAcceptor {};
 
 class TimeLexer : public Lexer {
   public:

@@ -4,7 +4,7 @@
 
 #include "time/Parser.h"
 #include "time/TimeLanguage.h"
-#include "time/TimeLexemeAcceptor.h"
+#include "time/TimeLexer.h"
 #include "time/TimeRPNSemantics.h"
 
 class TimeParser : public TimeLexemeAcceptor {

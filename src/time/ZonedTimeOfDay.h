@@ -21,7 +21,10 @@ class ZonedTimeOfDay {
 
 // Returns whether the two denote the same moment of the day: the first is converted into the
 // zone of the second and the times compared.
-bool operator==(ZonedTimeOfDay first, ZonedTimeOfDay const& second);
+inline bool operator==(ZonedTimeOfDay first, ZonedTimeOfDay const& second) {
+    first.SetTimeZone(second.zone);
+    return first.timeOfDay == second.timeOfDay;
+}
 inline bool operator!=(ZonedTimeOfDay const& first, ZonedTimeOfDay const& second) {
     return !(first == second);
 }

@@ -7,7 +7,6 @@
 
 #include <string>
 
-#include "xml/Pair.h"
 #include "xml/XMLHandler.h"
 
 class SimpleXMLParserPL : public XMLHandler {

@@ -5,15 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "xml/Pair.h"
-
+// A plain pair of two values with public fields, as the parser hands attributes to its handler:
+// `first` is the attribute's name, `second` its value.
+template <typename A, typename B>
+struct Pair {
+    A first;
+    B second;
+};
 class XMLHandler {
   public:
     // The attributes of one tag, in the order they were written; first is the name, second the
     // value. A name may occur more than once.
     typedef std::vector<Pair<std::string, std::string> const*> AttributePointers;
 
-    virtual ~XMLHandler();
+    virtual ~XMLHandler() = default;
 
     // A start tag (or `<>`, with an empty name) has been read completely.
     virtual void StartElement(std::string const& name, AttributePointers const& attributes) = 0;
@@ -22,6 +27,5 @@ class XMLHandler {
     // A piece of character data; one run of text may arrive in several pieces.
     virtual void Characters(std::string const& text) = 0;
     // A tag whose name begins with "?", the XML declaration among them. Ignored by default.
-    virtual void DoProcessingInstructionElement(std::string const& name,
-                                                AttributePointers const& attributes);
+    virtual void DoProcessingInstructionElement(std::string const&, AttributePointers const&) {}
 };

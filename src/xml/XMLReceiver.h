@@ -12,12 +12,12 @@ class XMLReceiver {
     // Attributes by name, ordered bytewise; a repeated name keeps its last value.
     typedef std::map<SharedUString<UTF8>, SharedUString<UTF8>> AttributeMap;
 
-    virtual ~XMLReceiver();
+    virtual ~XMLReceiver() = default;
 
     // A start tag; the views are valid only during the call.
-    virtual void StartElement(UStringRef<UTF8> name, AttributeMap const& attributes);
+    virtual void StartElement(UStringRef<UTF8>, AttributeMap const&) {}
     // An end tag or a self-closed tag, whichever name it had.
-    virtual void EndElement();
+    virtual void EndElement() {}
     // A piece of character data; one run of text may arrive in several pieces.
-    virtual void Characters(UStringRef<UTF8> text);
+    virtual void Characters(UStringRef<UTF8>) {}
 };

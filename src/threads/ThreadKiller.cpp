@@ -1,3 +1,0 @@
-#include "threads/ThreadKiller.h"
-
-bool ThreadKiller::m_kill = false;

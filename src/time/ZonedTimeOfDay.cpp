@@ -1,6 +1,0 @@
-#include "time/ZonedTimeOfDay.h"
-
-bool operator==(ZonedTimeOfDay first, ZonedTimeOfDay const& second) {
-    first.SetTimeZone(second.zone);
-    return first.timeOfDay == second.timeOfDay;
-}

@@ -1,5 +1,0 @@
-#include "xml/XMLHandler.h"
-
-XMLHandler::~XMLHandler() = default;
-
-void XMLHandler::DoProcessingInstructionElement(std::string const&, AttributePointers const&) {}
