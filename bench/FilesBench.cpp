@@ -15,7 +15,7 @@
 #include "files/FileLocationFunctions.h"
 #include "files/FileLoop.h"
 #include "files/ReadFile.h"
-#include "text/ChecksumReceiver.h"
+#include "text/streams/ChecksumReceiver.h"
 
 namespace {
 

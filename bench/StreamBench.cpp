@@ -11,11 +11,11 @@
 #include <string>
 #include <vector>
 
-#include "text/Base64.h"
-#include "text/Base64DecodingDataMaker.h"
-#include "text/Base64Encoder.h"
-#include "text/ChecksumReceiver.h"
-#include "text/StreamHelpers.h"
+#include "text/streams/Base64.h"
+#include "text/streams/Base64DecodingDataMaker.h"
+#include "text/streams/Base64Encoder.h"
+#include "text/streams/ChecksumReceiver.h"
+#include "text/streams/StreamHelpers.h"
 
 namespace {
 

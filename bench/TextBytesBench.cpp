@@ -9,10 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "text/AsciiNumerals.h"
-#include "text/ExtensibleArray.h"
-#include "text/StackBase.h"
-#include "text/Stringy.h"
+#include "text/bytes/AsciiNumerals.h"
+#include "text/bytes/ExtensibleArray.h"
+#include "text/bytes/StackBase.h"
+#include "text/bytes/Stringy.h"
 
 namespace {
 

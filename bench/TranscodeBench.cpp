@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "text/StreamTranscoder.h"
+#include "text/unicode/StreamTranscoder.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "text/UStringBuilder.h"
+#include "text/unicode/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
 #include "xml/XMLWriter.h"

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "text/AsciiNumerals.h"
-#include "text/ConstData.h"
-#include "text/Stringy.h"
+#include "text/bytes/AsciiNumerals.h"
+#include "text/bytes/ConstData.h"
+#include "text/bytes/Stringy.h"
 
 namespace {
 

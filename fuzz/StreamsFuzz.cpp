@@ -8,13 +8,13 @@
 #include <string>
 #include <vector>
 
-#include "text/Base64.h"
-#include "text/Base64Decoder.h"
-#include "text/ChecksumReceiver.h"
-#include "text/DataFilterer.h"
-#include "text/LineMaker.h"
-#include "text/MessageMaker.h"
-#include "text/VectorAppender.h"
+#include "text/streams/Base64.h"
+#include "text/streams/Base64Decoder.h"
+#include "text/streams/ChecksumReceiver.h"
+#include "text/streams/DataFilterer.h"
+#include "text/streams/LineMaker.h"
+#include "text/streams/MessageMaker.h"
+#include "text/streams/VectorAppender.h"
 
 namespace {
 

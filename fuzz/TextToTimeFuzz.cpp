@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "text/BytesErrors.h"
+#include "text/bytes/BytesErrors.h"
 #include "time/TimeErrors.h"
 #include "time/TextToTime.h"
 #include "time/TimeText.h"

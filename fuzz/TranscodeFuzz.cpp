@@ -7,7 +7,7 @@
 #include <cstring>
 #include <vector>
 
-#include "text/StreamTranscoder.h"
+#include "text/unicode/StreamTranscoder.h"
 
 namespace {
 

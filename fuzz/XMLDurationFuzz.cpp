@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <limits>
 
-#include "text/BytesErrors.h"
+#include "text/bytes/BytesErrors.h"
 #include "time/XMLTime.h"
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "text/UStringBuilder.h"
+#include "text/unicode/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
 #include "xml/XMLErrors.h"

@@ -1,7 +1,7 @@
 #include "files/AdviceFileTypes.h"
 
-#include "text/Ascii.h"
-#include "text/ConstData.h"
+#include "text/bytes/Ascii.h"
+#include "text/bytes/ConstData.h"
 
 namespace {
 

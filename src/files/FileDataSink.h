@@ -4,7 +4,7 @@
 
 #include "files/FileWriter.h"
 #include "files/FileWritingPath.h"
-#include "text/DataReceiver.h"
+#include "text/streams/DataReceiver.h"
 
 // Whether a sink ends with fsync. Only flushOnEnd, the default, is used in this program.
 enum FlushMode {

@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-#include "text/ConstData.h"
+#include "text/bytes/ConstData.h"
 #include "threads/DebuggableException.h"
 
 class FileLocation;

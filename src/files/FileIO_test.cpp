@@ -18,7 +18,7 @@
 #include "files/FileWriter.h"
 #include "files/FileWritingPath.h"
 #include "files/ReadFile.h"
-#include "text/StringReceiver.h"
+#include "text/streams/StringReceiver.h"
 
 namespace {
 

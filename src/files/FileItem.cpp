@@ -9,7 +9,7 @@
 #include "files/ReadFile.h"
 #include "files/RetryPolicy.h"
 #include "files/ThrowFileError.h"
-#include "text/ChecksumReceiver.h"
+#include "text/streams/ChecksumReceiver.h"
 
 namespace UnixPlatform {
 

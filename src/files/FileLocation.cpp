@@ -7,7 +7,7 @@
 #include "files/FileErrors.h"
 #include "files/ThrowFileError.h"
 #include "files/UnixFileInfo.h"
-#include "text/Ascii.h"
+#include "text/bytes/Ascii.h"
 
 namespace UnixPlatform {
 

@@ -9,7 +9,7 @@
 
 #include "files/FileErrors.h"
 #include "files/ThrowFileError.h"
-#include "text/LocaleConversion.h"
+#include "text/unicode/LocaleConversion.h"
 
 bool IsAbsolutePath(char const* path) {
     return path && path[0] == '/';

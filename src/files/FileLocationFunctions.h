@@ -6,8 +6,8 @@
 #include <string>
 
 #include "files/FileLocation.h"
-#include "text/ConstData.h"
-#include "text/UString.h"
+#include "text/bytes/ConstData.h"
+#include "text/unicode/UString.h"
 
 // Returns whether the text is non-null and begins with "/".
 bool IsAbsolutePath(char const* path);

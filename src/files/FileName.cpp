@@ -5,8 +5,8 @@
 #include "files/AdviceFileTypes.h"
 #include "files/FileErrors.h"
 #include "files/WildCard.h"
-#include "text/Ascii.h"
-#include "text/LocaleConversion.h"
+#include "text/bytes/Ascii.h"
+#include "text/unicode/LocaleConversion.h"
 
 namespace UnixPlatform {
 

@@ -7,8 +7,8 @@
 
 #include "files/AdviceFileTypes.h"
 #include "files/PathStorage.h"
-#include "text/ConstData.h"
-#include "text/UString.h"
+#include "text/bytes/ConstData.h"
+#include "text/unicode/UString.h"
 
 namespace UnixPlatform {
 

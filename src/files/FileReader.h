@@ -4,8 +4,8 @@
 // more is coming.
 
 #include "files/FileReadingPath.h"
-#include "text/ConstData.h"
-#include "text/DataReader.h"
+#include "text/bytes/ConstData.h"
+#include "text/streams/DataReader.h"
 
 namespace UnixPlatform {
 

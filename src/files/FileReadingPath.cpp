@@ -8,7 +8,7 @@
 #include "files/FileErrors.h"
 #include "files/Seek64.h"
 #include "files/ThrowFileError.h"
-#include "text/Ascii.h"
+#include "text/bytes/Ascii.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 // don't disturb each other; the descriptor's own offset is not relied on.
 
 #include "files/FileWritingPath.h"
-#include "text/ConstData.h"
-#include "text/DataReceiver.h"
+#include "text/bytes/ConstData.h"
+#include "text/streams/DataReceiver.h"
 
 // Tag for a writer that starts at the current end of the file.
 struct WritePositionEndOfFile {};

@@ -2,8 +2,8 @@
 
 #include "files/FileReadingLoop.h"
 #include "files/FileReadingPath.h"
-#include "text/LineMaker.h"
-#include "text/MessageMaker.h"
+#include "text/streams/LineMaker.h"
+#include "text/streams/MessageMaker.h"
 
 namespace {
 

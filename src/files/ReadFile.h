@@ -2,9 +2,9 @@
 // Reading a whole file, or a range of it, into a push receiver.
 
 #include "files/FileLocation.h"
-#include "text/DataReceiver.h"
-#include "text/LineReceiver.h"
-#include "text/MessageReceiver.h"
+#include "text/streams/DataReceiver.h"
+#include "text/streams/LineReceiver.h"
+#include "text/streams/MessageReceiver.h"
 
 // Push the bytes from start to end (the file's length when not given) to the receiver: Start,
 // a Receive for each chunk of at most 2048 bytes, ReceiveEnd. An empty range gives Start and

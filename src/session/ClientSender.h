@@ -2,7 +2,7 @@
 // How the main thread sends documents to the agent: it puts them into the write queue, and the
 // pipe's write thread sends them within about 100 ms.
 
-#include "text/UString.h"
+#include "text/unicode/UString.h"
 #include "xml/ConvertToXML.h"
 
 // A tag without state that marks the overloads of SendToClient.

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "text/UString.h"
+#include "text/unicode/UString.h"
 
 struct UIMessage {
     UIMessage() = default;

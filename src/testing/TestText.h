@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "text/ConstData.h"
-#include "text/UString.h"
+#include "text/bytes/ConstData.h"
+#include "text/unicode/UString.h"
 
 // Returns a view of the string's bytes as UTF-8; the string must outlive the view. Not
 // zero-terminated, so code under test cannot rely on a terminator it would not get.

@@ -2,8 +2,8 @@
 // A kind of token, as the lexer sees it: it consumes the bytes that belong to it and reports the
 // token to its acceptor when it meets the first byte that does not, or at the end of the text.
 
-#include "text/ConstData.h"
-#include "text/Range.h"
+#include "text/bytes/ConstData.h"
+#include "text/bytes/Range.h"
 
 class Lexeme {
   public:

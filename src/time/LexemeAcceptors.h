@@ -2,8 +2,8 @@
 // The interfaces through which lexemes deliver their tokens. Ranges carry byte positions in the
 // text, for callers that want to point at a token.
 
-#include "text/ConstData.h"
-#include "text/Range.h"
+#include "text/bytes/ConstData.h"
+#include "text/bytes/Range.h"
 
 class EndLexemeAcceptor {
   public:

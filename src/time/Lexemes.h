@@ -2,9 +2,9 @@
 // The general lexemes: runs of ignored bytes, single characters, and words gathered into a small
 // buffer through an optional filter.
 
-#include "text/Ascii.h"
-#include "text/ConstData.h"
-#include "text/DataFilter.h"
+#include "text/bytes/Ascii.h"
+#include "text/bytes/ConstData.h"
+#include "text/streams/DataFilter.h"
 #include "time/Lexeme.h"
 #include "time/LexemeAcceptors.h"
 

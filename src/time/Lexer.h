@@ -2,8 +2,8 @@
 // A lexer cuts bytes into tokens: it chooses a lexeme by the class of a token's first byte and
 // lets it consume what belongs to it. Text may arrive in chunks of any size.
 
-#include "text/ConstData.h"
-#include "text/DataReceiver.h"
+#include "text/bytes/ConstData.h"
+#include "text/streams/DataReceiver.h"
 #include "time/Lexeme.h"
 #include "time/LexemeAcceptors.h"
 

@@ -8,8 +8,8 @@
 // production if any right side begins with it, and the failure shows when no production
 // continues, at the latest at AcceptEnd.
 
-#include "text/ConstData.h"
-#include "text/StackBase.h"
+#include "text/bytes/ConstData.h"
+#include "text/bytes/StackBase.h"
 #include "time/Grammar.h"
 #include "time/TimeErrors.h"
 

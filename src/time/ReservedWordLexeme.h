@@ -1,8 +1,8 @@
 #pragma once
 // Words looked up in a constant table of reserved words, sorted in ascending byte order.
 
-#include "text/ConstData.h"
-#include "text/Range.h"
+#include "text/bytes/ConstData.h"
+#include "text/bytes/Range.h"
 #include "time/Lexemes.h"
 
 // One entry of a table of reserved words: the word, and what it stands for.

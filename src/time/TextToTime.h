@@ -7,7 +7,7 @@
 // more than six values in waiting; the InvalidTime classes say which part does not exist. Each
 // call works on its own stack objects, so the functions may be called from any thread.
 
-#include "text/ConstData.h"
+#include "text/bytes/ConstData.h"
 #include "time/DateRecord.h"
 #include "time/TimeObject.h"
 #include "time/TimeOfDay.h"

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "text/FiniteStackBase.h"
+#include "text/bytes/FiniteStackBase.h"
 #include "time/DateRecord.h"
 #include "time/TimeOfDay.h"
 #include "time/TimeRPNSemantics.h"

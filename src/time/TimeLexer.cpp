@@ -1,6 +1,6 @@
 #include "time/TimeLexer.h"
 
-#include "text/AsciiCaseFilters.h"
+#include "text/streams/AsciiCaseFilters.h"
 
 namespace {
 

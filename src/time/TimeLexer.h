@@ -3,7 +3,7 @@
 // letters in any case, digits make numerals, and every other byte is a character of its own.
 // Tokens need no separators: "04Mar2000" is three tokens.
 
-#include "text/Ascii.h"
+#include "text/bytes/Ascii.h"
 #include "time/Lexemes.h"
 #include "time/Lexer.h"
 #include "time/ReservedWordLexeme.h"

@@ -1,6 +1,6 @@
 #include "time/TimeText.h"
 
-#include "text/AsciiNumerals.h"
+#include "text/bytes/AsciiNumerals.h"
 
 namespace {
 

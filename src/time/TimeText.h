@@ -7,8 +7,8 @@
 // text functions return a fixed-capacity text and throw ConstDataCapacityExceeded when the
 // result is longer; a year of five digits is the way to reach that.
 
-#include "text/ConstData.h"
-#include "text/FixedCapacityText.h"
+#include "text/bytes/ConstData.h"
+#include "text/bytes/FixedCapacityText.h"
 #include "time/DateRecord.h"
 #include "time/Instant.h"
 #include "time/Month.h"

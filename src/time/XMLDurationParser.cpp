@@ -1,6 +1,6 @@
 #include "time/XMLDurationParser.h"
 
-#include "text/BytesErrors.h"
+#include "text/bytes/BytesErrors.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <set>
 
-#include "text/NullOr.h"
+#include "text/bytes/NullOr.h"
 
 class XMLDurationParser {
   public:

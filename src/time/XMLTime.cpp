@@ -4,7 +4,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "text/AsciiNumerals.h"
+#include "text/bytes/AsciiNumerals.h"
 #include "time/TimeObject.h"
 #include "time/TimeText.h"
 #include "time/TimeZone.h"

@@ -2,7 +2,7 @@
 // The time values in the lexical forms of XML Schema: date-time, date, time and duration. The
 // readers are deliberately narrow and each writer emits one exact form.
 
-#include "text/UString.h"
+#include "text/unicode/UString.h"
 #include "time/DateRecord.h"
 #include "time/Instant.h"
 #include "time/TimeInterval.h"

@@ -9,8 +9,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "text/AsciiNumerals.h"
-#include "text/BytesErrors.h"
+#include "text/bytes/AsciiNumerals.h"
+#include "text/bytes/BytesErrors.h"
 #include "time/TimeObject.h"
 #include "time/TimeErrors.h"
 

@@ -6,8 +6,8 @@
 //   static char const* const rootElementName;     // "ClientToUI" or "UIToClient"
 //   static char const* const messageElementName;  // "ReadyForData" and the like
 
-#include "text/UString.h"
-#include "text/UStringBuilder.h"
+#include "text/unicode/UString.h"
+#include "text/unicode/UStringBuilder.h"
 #include "xml/XMLWriter.h"
 
 // Returns the document: the declaration with its encoding, the root element, the message element

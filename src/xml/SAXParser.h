@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "text/UString.h"
+#include "text/unicode/UString.h"
 #include "xml/SimpleXMLParserPL.h"
 #include "xml/XMLReceiver.h"
 

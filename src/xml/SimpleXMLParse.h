@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "text/UString.h"
+#include "text/unicode/UString.h"
 #include "xml/XMLElement.h"
 
 namespace SimpleXML {

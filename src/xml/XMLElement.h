@@ -6,8 +6,8 @@
 #include <map>
 #include <vector>
 
-#include "text/SharedUString.h"
-#include "text/UString.h"
+#include "text/unicode/SharedUString.h"
+#include "text/unicode/UString.h"
 
 class XMLElement {
   public:

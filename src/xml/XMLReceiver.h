@@ -4,8 +4,8 @@
 
 #include <map>
 
-#include "text/SharedUString.h"
-#include "text/UString.h"
+#include "text/unicode/SharedUString.h"
+#include "text/unicode/UString.h"
 
 class XMLReceiver {
   public:

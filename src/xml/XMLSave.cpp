@@ -2,9 +2,9 @@
 
 #include <cstring>
 
-#include "text/AsciiNumerals.h"
-#include "text/ConstData.h"
-#include "text/LocaleConversion.h"
+#include "text/bytes/AsciiNumerals.h"
+#include "text/bytes/ConstData.h"
+#include "text/unicode/LocaleConversion.h"
 
 namespace {
 

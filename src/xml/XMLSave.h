@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "text/UString.h"
+#include "text/unicode/UString.h"
 #include "xml/XMLWriter.h"
 
 // Writes text into the open element. Text with any of "<", "&", ">" goes as one CDATA section,

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "text/UStringBuilder.h"
+#include "text/unicode/UStringBuilder.h"
 
 namespace {
 

@@ -7,9 +7,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "text/SharedUString.h"
-#include "text/UString.h"
-#include "text/UTextReceiver.h"
+#include "text/unicode/SharedUString.h"
+#include "text/unicode/UString.h"
+#include "text/unicode/UTextReceiver.h"
 
 class XMLElement;
 

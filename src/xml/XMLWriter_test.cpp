@@ -8,7 +8,7 @@
 #include <sstream>
 #include <string>
 
-#include "text/UStringBuilder.h"
+#include "text/unicode/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
 
