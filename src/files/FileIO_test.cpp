@@ -19,6 +19,7 @@
 #include "files/FileWritingPath.h"
 #include "files/ReadFile.h"
 #include "text/streams/StringReceiver.h"
+#include "testing/RandomBytes.h"
 
 namespace {
 
@@ -35,14 +36,6 @@ class RecordingReceiver : public DataReceiver {
     std::string calls;
     std::string bytes;
 };
-
-std::string RandomBytes(std::mt19937& random, std::size_t size) {
-    std::string bytes(size, 0);
-    for (char& byte : bytes) {
-        byte = static_cast<char>(random());
-    }
-    return bytes;
-}
 
 }  // namespace
 

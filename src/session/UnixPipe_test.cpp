@@ -10,6 +10,9 @@
 #include <thread>
 #include <vector>
 
+#include "testing/Eventually.h"
+#include "testing/PipeFrames.h"
+
 namespace {
 
 UIMessage MessageOf(std::string const& text) {
@@ -22,21 +25,6 @@ UIMessage MessageOf(std::string const& text) {
 std::string TextOf(UIMessage const& message) {
     if (!message.m_text.begin) return std::string();
     return std::string(reinterpret_cast<char const*>(message.m_text.begin), message.Length());
-}
-
-std::string Frame(std::string const& text) {
-    uint32_t length = static_cast<uint32_t>(text.size());
-    return std::string(reinterpret_cast<char const*>(&length), 4) + text;
-}
-
-// Waits up to ten seconds for a condition; the pipe threads answer within milliseconds.
-template <class F>
-bool Eventually(F condition) {
-    for (int i = 0; i < 1000; ++i) {
-        if (condition()) return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    return condition();
 }
 
 // Drains the queue into texts; null texts show as "<null>".

@@ -20,9 +20,16 @@ inline std::string Str(UStringRef<UTF8> text) {
     return std::string(reinterpret_cast<char const*>(text.begin), text.Length());
 }
 
-// Returns the bytes of the range as a string.
+// Returns the bytes of the range as a string; also takes whatever converts to a range
+// (std::vector<unsigned char>, FixedCapacityText).
 inline std::string Str(ConstData bytes) {
     if (!bytes.begin) return std::string();
     return std::string(reinterpret_cast<char const*>(bytes.begin),
                        static_cast<std::size_t>(bytes.end - bytes.begin));
+}
+
+// Returns -1, 0 or 1 by the sign of a comparison result, so that comparisons whose magnitudes
+// differ (memcmp, std::string::compare) can be checked against each other.
+inline int Sign(int value) {
+    return (value > 0) - (value < 0);
 }

@@ -10,18 +10,9 @@
 #include "threads/AtThreadExit.h"
 #include "threads/Mutex.h"
 #include "threads/PortableThread.h"
+#include "testing/Eventually.h"
 
 namespace {
-
-// Polls a condition for up to ten seconds; thread hand-overs here take milliseconds.
-template <class F>
-bool Eventually(F condition) {
-    for (int i = 0; i < 10000; ++i) {
-        if (condition()) return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return condition();
-}
 
 std::atomic<int> exitRoutineRuns{0};
 void CountExit() { ++exitRoutineRuns; }

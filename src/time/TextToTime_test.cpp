@@ -8,14 +8,9 @@
 
 #include "threads/DebuggableException.h"
 #include "time/TimeText.h"
+#include "testing/TimeReading.h"
 
 namespace {
-
-TimeObject Reading(std::uint32_t year, Month month, std::uint8_t day, std::uint8_t hour,
-                   std::uint8_t minute, std::uint8_t second, std::int32_t zone) {
-    return TimeObject(DateRecord(day, month, year), TimeOfDay(hour, minute, second),
-                      TimeZone(zone));
-}
 
 // Returns the name of the class of the failure that the call throws, or "none".
 template <class Call>

@@ -7,14 +7,9 @@
 #include "time/Clocks.h"
 #include "time/TimeMark.h"
 #include "time/ZonedTimeOfDay.h"
+#include "testing/TimeReading.h"
 
 namespace {
-
-TimeObject Reading(std::uint32_t year, Month month, std::uint8_t day, std::uint8_t hour,
-                   std::uint8_t minute, std::uint8_t second, std::int32_t zone = 0) {
-    return TimeObject(DateRecord(day, month, year), TimeOfDay(hour, minute, second),
-                      TimeZone(zone));
-}
 
 void ExpectSameFields(TimeObject const& a, TimeObject const& b) {
     EXPECT_EQ(a.date, b.date);

@@ -4,25 +4,20 @@
 
 #include <string>
 
-namespace {
-template <std::size_t N>
-std::string S(FixedCapacityText<N> const& text) {
-    return MakeString(text);
-}
-}  // namespace
+#include "testing/TestText.h"
 
 TEST(TimeText, FormsOfKnownValues) {
     DateRecord const date(4, March, 2000);
     TimeOfDay const time(7, 5, 9);
-    EXPECT_EQ(S(DateToText(date)), "Sat, 04 Mar 2000");
-    EXPECT_EQ(S(DateToText(DateRecord(1, January, 12))), "Sun, 01 Jan 0012");
-    EXPECT_EQ(S(DateToExcelText(date)), "2000-03-04");
-    EXPECT_EQ(S(TimeOfDayToText(time)), "07:05:09");
-    EXPECT_EQ(S(ZonedTimeOfDayToText(ZonedTimeOfDay(time, TimeZone(-19800)))), "07:05:09 -0530");
-    EXPECT_EQ(S(TimeToText(TimeObject(date, time, TimeZone(-19800)))),
+    EXPECT_EQ(Str(DateToText(date)), "Sat, 04 Mar 2000");
+    EXPECT_EQ(Str(DateToText(DateRecord(1, January, 12))), "Sun, 01 Jan 0012");
+    EXPECT_EQ(Str(DateToExcelText(date)), "2000-03-04");
+    EXPECT_EQ(Str(TimeOfDayToText(time)), "07:05:09");
+    EXPECT_EQ(Str(ZonedTimeOfDayToText(ZonedTimeOfDay(time, TimeZone(-19800)))), "07:05:09 -0530");
+    EXPECT_EQ(Str(TimeToText(TimeObject(date, time, TimeZone(-19800)))),
               "Sat, 04 Mar 2000 07:05:09 -0530");
-    EXPECT_EQ(S(TimeToExcelText(TimeObject(date, time, TimeZone(-19800)))), "2000-03-04 07:05:09");
-    EXPECT_EQ(S(TimeToText(Instant(952153509000000LL), TimeZone(3600))),
+    EXPECT_EQ(Str(TimeToExcelText(TimeObject(date, time, TimeZone(-19800)))), "2000-03-04 07:05:09");
+    EXPECT_EQ(Str(TimeToText(Instant(952153509000000LL), TimeZone(3600))),
               "Sat, 04 Mar 2000 08:05:09 +0100");
 
     struct {
@@ -31,7 +26,7 @@ TEST(TimeText, FormsOfKnownValues) {
     } const zones[] = {{0, "+0000"},     {-1, "-0000"},     {59, "+0000"},
                        {60, "+0001"},    {3600, "+0100"},   {-19800, "-0530"},
                        {50400, "+1400"}, {-43200, "-1200"}, {359940, "+9959"}};
-    for (auto const& z : zones) EXPECT_EQ(S(TimeZoneToText(TimeZone(z.seconds))), z.text);
+    for (auto const& z : zones) EXPECT_EQ(Str(TimeZoneToText(TimeZone(z.seconds))), z.text);
 }
 
 TEST(TimeText, FiveDigitYearsExceedTheCapacity) {

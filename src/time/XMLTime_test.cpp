@@ -13,30 +13,22 @@
 #include "text/bytes/BytesErrors.h"
 #include "time/TimeObject.h"
 #include "time/TimeErrors.h"
+#include "testing/TestText.h"
 
 namespace {
-
-UStringRef<UTF8> U(std::string const& text) {
-    auto const* bytes = reinterpret_cast<UTF8::Unit const*>(text.data());
-    return UStringRef<UTF8>(bytes, bytes + text.size());
-}
-
-std::string S(AutoUString<UTF8> const& text) {
-    return std::string(reinterpret_cast<char const*>(text.begin), text.Length());
-}
 
 std::int64_t const second = 1000000;
 // 2000-03-04T07:05:09Z, in microseconds since the epoch.
 std::int64_t const reference = 952153509 * second;
 
 std::int64_t Read(std::string const& text) {
-    return XMLDateTimeToInstant(U(text)).Microseconds();
+    return XMLDateTimeToInstant(U8(text)).Microseconds();
 }
 
 // Returns the text of the ExceptionPL that reading the duration throws, or "none".
 std::string DurationFailure(std::string const& text) {
     try {
-        XMLDurationToTimeInterval(U(text));
+        XMLDurationToTimeInterval(U8(text));
     } catch (ExceptionPL const& failure) {
         return failure.what();
     }
@@ -84,22 +76,22 @@ TEST(XMLDateTimeToInstant, ZonesFractionsAndFixedPlaces) {
 }
 
 TEST(XMLDateToDateRecord, FixedPlacesAndShortTexts) {
-    EXPECT_EQ(XMLDateToDateRecord(U("2000-03-04")), DateRecord(4, March, 2000));
-    EXPECT_EQ(XMLDateToDateRecord(U("2000x13x45+01:00")),
+    EXPECT_EQ(XMLDateToDateRecord(U8("2000-03-04")), DateRecord(4, March, 2000));
+    EXPECT_EQ(XMLDateToDateRecord(U8("2000x13x45+01:00")),
               DateRecord(45, static_cast<Month>(13), 2000));
     // Texts too short for the fixed places fail in the cutting, an empty day as no numeral.
-    EXPECT_THROW(XMLDateToDateRecord(U("2000")), std::out_of_range);
-    EXPECT_THROW(XMLDateToDateRecord(U("2000-03")), std::out_of_range);
-    EXPECT_THROW(XMLDateToDateRecord(U("2000-03-")), NotANumeral);
-    EXPECT_THROW(XMLDateToDateRecord(U("")), NotANumeral);
-    EXPECT_THROW(XMLDateToDateRecord(U("2000-3-04")), NotANumeral);
+    EXPECT_THROW(XMLDateToDateRecord(U8("2000")), std::out_of_range);
+    EXPECT_THROW(XMLDateToDateRecord(U8("2000-03")), std::out_of_range);
+    EXPECT_THROW(XMLDateToDateRecord(U8("2000-03-")), NotANumeral);
+    EXPECT_THROW(XMLDateToDateRecord(U8("")), NotANumeral);
+    EXPECT_THROW(XMLDateToDateRecord(U8("2000-3-04")), NotANumeral);
 }
 
 TEST(XMLTime, WritersOfDatesTimesAndDateTimes) {
-    EXPECT_EQ(S(DateRecordToXMLDate(DateRecord(4, March, 2000))), "2000-03-04");
-    EXPECT_EQ(S(DateRecordToXMLDate(DateRecord(4, March, 12))), "0012-03-04");
-    EXPECT_EQ(S(DateRecordToXMLDate(DateRecord(4, March, 123456))), "123456-03-04");
-    EXPECT_EQ(S(TimeOfDayToXMLTime(TimeOfDay(7, 5, 9))), "07:05:09");
+    EXPECT_EQ(Str(DateRecordToXMLDate(DateRecord(4, March, 2000))), "2000-03-04");
+    EXPECT_EQ(Str(DateRecordToXMLDate(DateRecord(4, March, 12))), "0012-03-04");
+    EXPECT_EQ(Str(DateRecordToXMLDate(DateRecord(4, March, 123456))), "123456-03-04");
+    EXPECT_EQ(Str(TimeOfDayToXMLTime(TimeOfDay(7, 5, 9))), "07:05:09");
 }
 
 TEST(XMLTime, LocalZoneIsTheZoneOfTheCall) {
@@ -116,7 +108,7 @@ TEST(XMLTime, LocalZoneIsTheZoneOfTheCall) {
         setenv("TZ", z.tz, 1);
         tzset();
         // The fraction is dropped, not rounded.
-        EXPECT_EQ(S(InstantToXMLDateTime(Instant(reference + 999999))), z.written);
+        EXPECT_EQ(Str(InstantToXMLDateTime(Instant(reference + 999999))), z.written);
         EXPECT_EQ(Read("2000-03-04T07:05:09"), reference - z.offset * second);
     }
     if (saved) {
@@ -145,7 +137,7 @@ TEST(TimeIntervalToXMLDuration, KnownForms) {
         {std::numeric_limits<std::int64_t>::min(), "-PT"},
     };
     for (auto const& c : cases)
-        EXPECT_EQ(S(TimeIntervalToXMLDuration(TimeInterval(c.microseconds))), c.text);
+        EXPECT_EQ(Str(TimeIntervalToXMLDuration(TimeInterval(c.microseconds))), c.text);
 }
 
 TEST(XMLDurationToTimeInterval, ReadsTheNarrowGrammar) {
@@ -160,7 +152,7 @@ TEST(XMLDurationToTimeInterval, ReadsTheNarrowGrammar) {
         {"P4294967295D", std::int64_t(4294967295ULL * 86400000000ULL)},
     };
     for (auto const& c : good)
-        EXPECT_EQ(XMLDurationToTimeInterval(U(c.text)).Microseconds(), c.microseconds) << c.text;
+        EXPECT_EQ(XMLDurationToTimeInterval(U8(c.text)).Microseconds(), c.microseconds) << c.text;
 
     struct {
         char const* text;
@@ -197,7 +189,7 @@ TEST(XMLDurationToTimeInterval, EveryIntervalButTheLowestReadsBack) {
         if (i % 4 == 1) value -= value % second;
         if (i % 4 == 2) value -= value % 60000000;
         if (i % 4 == 3) value -= value % 86400000000LL;
-        std::string const text = S(TimeIntervalToXMLDuration(TimeInterval(value)));
-        ASSERT_EQ(XMLDurationToTimeInterval(U(text)).Microseconds(), value) << text;
+        std::string const text = Str(TimeIntervalToXMLDuration(TimeInterval(value)));
+        ASSERT_EQ(XMLDurationToTimeInterval(U8(text)).Microseconds(), value) << text;
     }
 }

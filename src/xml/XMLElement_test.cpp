@@ -6,27 +6,11 @@
 
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLErrors.h"
+#include "testing/XMLDump.h"
 
 namespace {
 
-UStringRef<UTF8> U8(std::string const& s) {
-    auto const* begin = reinterpret_cast<UTF8::Unit const*>(s.data());
-    return UStringRef<UTF8>(begin, begin + s.size());
-}
-
-std::string Str(UStringRef<UTF8> s) {
-    return std::string(reinterpret_cast<char const*>(s.begin), s.Length());
-}
-
 // name[attribute]{value}(child), so that a whole tree compares as one string.
-std::string Dump(XMLElement const& e) {
-    std::string s = Str(e.name);
-    for (auto const& a : e.attributes) s += "[" + Str(a.first) + "=" + Str(a.second) + "]";
-    s += "{" + Str(e.GetValue()) + "}";
-    for (auto const& child : e.children) s += "(" + Dump(child) + ")";
-    return s;
-}
-
 std::string ParseAndDump(std::string const& text) {
     try {
         return Dump(*SimpleXML::Parse(U8(text)));

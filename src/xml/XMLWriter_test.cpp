@@ -11,17 +11,9 @@
 #include "text/unicode/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
+#include "testing/XMLDump.h"
 
 namespace {
-
-UStringRef<UTF8> U8(std::string const& s) {
-    auto const* begin = reinterpret_cast<UTF8::Unit const*>(s.data());
-    return UStringRef<UTF8>(begin, begin + s.size());
-}
-
-std::string Str(UStringRef<UTF8> s) {
-    return std::string(reinterpret_cast<char const*>(s.begin), s.Length());
-}
 
 // Collects the bytes and counts the stream's starts and ends.
 struct Recorder : UTextReceiver<UTF8> {
@@ -142,7 +134,7 @@ TEST(XMLWriter, WritesAWholeTreeValueFirstAttributesInOrder) {
 }
 
 // Any bytes at all, favouring those that the writer and the parser steer by.
-std::string RandomBytes(std::mt19937& random, unsigned maxLength) {
+std::string RandomMarkupText(std::mt19937& random, unsigned maxLength) {
     static char const steering[] = "<>&\"';]\r\n\t -/=?!#x";
     std::string s(random() % (maxLength + 1), '\0');
     for (char& c : s)
@@ -163,20 +155,12 @@ XMLElement RandomTree(std::mt19937& random, int depth) {
     XMLElement::AttributeMap attributes;
     for (unsigned count = random() % 4; count > 0; --count)
         attributes.insert_or_assign(SharedUString<UTF8>(MakeUString(U8(RandomName(random)))),
-                                    SharedUString<UTF8>(MakeUString(U8(RandomBytes(random, 8)))));
+                                    SharedUString<UTF8>(MakeUString(U8(RandomMarkupText(random, 8)))));
     XMLElement element(U8(RandomName(random)), attributes);
-    if (random() % 3 != 0) element.AppendCharacters(U8(RandomBytes(random, 12)));
+    if (random() % 3 != 0) element.AppendCharacters(U8(RandomMarkupText(random, 12)));
     for (int children = depth > 0 ? random() % 4 : 0; children > 0; --children)
         element.AddChildElement(RandomTree(random, depth - 1));
     return element;
-}
-
-std::string Dump(XMLElement const& e) {
-    std::string s = "<" + Str(e.name);
-    for (auto const& a : e.attributes) s += "|" + Str(a.first) + "=" + Str(a.second);
-    s += "|{" + Str(e.GetValue()) + "}";
-    for (auto const& child : e.children) s += Dump(child);
-    return s + ">";
 }
 
 // With indentation the line feeds and tabs before tags become part of the parent's value.

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "AgentSimulator.h"
+#include "testing/PipeFrames.h"
 
 namespace {
 
@@ -21,8 +22,6 @@ double Seconds() {
     clock_gettime(CLOCK_MONOTONIC, &now);
     return now.tv_sec + now.tv_nsec / 1e9;
 }
-
-std::string Header(uint32_t length) { return std::string(reinterpret_cast<char*>(&length), 4); }
 
 // Starts the program and takes its greeting.
 void StartAndGreet(AgentSimulator& agent) {
@@ -63,7 +62,7 @@ TEST(ProcessLifecycle, TheLargestFrameIsTakenAndOneByteMoreEndsTheSession) {
     agent.SendFrame(std::string(2097152, 'x'));
     EXPECT_FALSE(agent.WaitForExit(3000).has_value()) << "a frame of the largest size ended it";
 
-    agent.SendRaw(Header(2097153));
+    agent.SendRaw(FrameHeader(2097153));
     ExpectCleanExit(agent);
 }
 
@@ -71,7 +70,7 @@ TEST(ProcessLifecycle, BytesOneAtATimeAndEmptyFramesDoNoHarm) {
     AgentSimulator agent;
     StartAndGreet(agent);
     std::string document = "<ClientToUI><QuietModeEnd></QuietModeEnd></ClientToUI>";
-    std::string stream = Header(0) + Header(static_cast<uint32_t>(document.size())) + document;
+    std::string stream = FrameHeader(0) + FrameHeader(static_cast<uint32_t>(document.size())) + document;
     for (char byte : stream) ASSERT_TRUE(agent.SendRaw(std::string(1, byte)));
     EXPECT_FALSE(agent.WaitForExit(2500).has_value());
     agent.CloseToProcess();

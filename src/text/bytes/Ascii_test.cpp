@@ -6,14 +6,7 @@
 
 #include "text/bytes/Ascii.h"
 #include "text/bytes/Bits.h"
-
-namespace {
-
-int Sign(int value) {
-    return (value > 0) - (value < 0);
-}
-
-}  // namespace
+#include "testing/TestText.h"
 
 // The C library's classes in the "C" locale are an independent statement of the same sets.
 TEST(Ascii, SetsMatchTheCLocaleClasses) {

@@ -7,6 +7,7 @@
 
 #include "text/bytes/ConstData.h"
 #include "text/bytes/BytesErrors.h"
+#include "testing/TestText.h"
 
 namespace {
 
@@ -14,10 +15,6 @@ std::vector<std::string> Strings(std::vector<ConstData> const& pieces) {
     std::vector<std::string> result;
     for (ConstData piece : pieces) result.push_back(MakeString(piece));
     return result;
-}
-
-int Sign(int value) {
-    return (value > 0) - (value < 0);
 }
 
 // Short random texts over a small alphabet, so that hits and ties are common.

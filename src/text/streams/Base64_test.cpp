@@ -14,18 +14,10 @@
 #include "text/streams/StreamHelpers.h"
 #include "text/streams/StringReceiver.h"
 #include "text/streams/VectorAppender.h"
+#include "testing/RandomBytes.h"
+#include "testing/TestText.h"
 
 namespace {
-
-std::string Text(std::vector<unsigned char> const& bytes) {
-    return std::string(bytes.begin(), bytes.end());
-}
-
-std::vector<unsigned char> RandomBytes(std::mt19937& random, std::size_t size) {
-    std::vector<unsigned char> bytes(size);
-    for (auto& byte : bytes) byte = static_cast<unsigned char>(random());
-    return bytes;
-}
 
 // Runs the filter over input, cut into random pieces, into random-sized output windows of at
 // least minimumOutput bytes, then flushes it into windows of at least three bytes, the most that
@@ -69,7 +61,7 @@ TEST(Base64, KnownAnswersBothWays) {
                        {"a", "YQ=="}};
     for (auto const& c : cases) {
         EXPECT_EQ(Base64Encode(c.bytes), c.text) << c.bytes;
-        EXPECT_EQ(Text(Base64Decode(c.text)), c.bytes) << c.text;
+        EXPECT_EQ(Str(Base64Decode(c.text)), c.bytes) << c.text;
     }
 }
 
@@ -102,14 +94,14 @@ TEST(Base64, DecodingSkipsEveryByteOutsideTheAlphabet) {
         {std::string("\xff\x80Z!g\0", 6), "f"},
     };
     for (auto const& c : cases) {
-        EXPECT_EQ(Text(Base64Decode(c.text)), c.bytes) << c.text;
+        EXPECT_EQ(Str(Base64Decode(c.text)), c.bytes) << c.text;
     }
 }
 
 TEST(Base64, RandomBytesSurviveAnyChunkingOfTheFilters) {
     std::mt19937 random(20261121);
     for (int round = 0; round < 300; ++round) {
-        std::vector<unsigned char> bytes = RandomBytes(random, random() % 200);
+        std::vector<unsigned char> bytes = RandomBytes<std::vector<unsigned char>>(random, random() % 200);
         std::string const expected = Base64Encode(bytes);
         ASSERT_EQ(expected.size(), (bytes.size() + 2) / 3 * 4);
 
@@ -125,7 +117,7 @@ TEST(Base64, RandomBytesSurviveAnyChunkingOfTheFilters) {
             noisy += c;
         }
         Base64Decoder decoder;
-        ASSERT_EQ(FilterInPieces(decoder, noisy, random, 1), Text(bytes));
+        ASSERT_EQ(FilterInPieces(decoder, noisy, random, 1), Str(bytes));
     }
 }
 
@@ -143,7 +135,7 @@ TEST(Base64, EncoderFlushNeedsRoomForTheWholePaddedTail) {
 TEST(Base64EncodingLineMaker, LinesOf64CharactersDecodeBackInAnyChunking) {
     std::mt19937 random(11);
     for (std::size_t size : {0, 1, 47, 48, 49, 96, 97, 3001}) {
-        std::vector<unsigned char> bytes = RandomBytes(random, size);
+        std::vector<unsigned char> bytes = RandomBytes<std::vector<unsigned char>>(random, size);
         std::string text;
         StringReceiver textReceiver(text);
         LineFlattener flattener(LineFlattener::lf, textReceiver);

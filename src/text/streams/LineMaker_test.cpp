@@ -48,7 +48,7 @@ class LineRecorder : public LineReceiver {
 };
 
 // Feeds input cut at the given places (in order) and returns what the receiver saw.
-LineRecorder Feed(std::string const& input, std::vector<std::size_t> cuts,
+LineRecorder FeedLines(std::string const& input, std::vector<std::size_t> cuts,
                   unsigned long long start = 0) {
     LineRecorder recorder;
     LineMaker maker(recorder);
@@ -60,9 +60,9 @@ LineRecorder Feed(std::string const& input, std::vector<std::size_t> cuts,
     return recorder;
 }
 
-std::string Record(std::string const& input, std::vector<std::size_t> const& cuts,
+std::string LineRecord(std::string const& input, std::vector<std::size_t> const& cuts,
                    unsigned long long start = 0) {
-    return Feed(input, cuts, start).record;
+    return FeedLines(input, cuts, start).record;
 }
 
 }  // namespace
@@ -84,13 +84,13 @@ TEST(LineMaker, BreaksOfOneAndTwoBytesInEveryChunking) {
     };
     for (auto const& c : cases) {
         std::string const input = c.input;
-        EXPECT_EQ(Record(input, {}), c.record) << input;
+        EXPECT_EQ(LineRecord(input, {}), c.record) << input;
         std::vector<std::size_t> everyByte;
         for (std::size_t cut = 0; cut <= input.size(); ++cut) everyByte.push_back(cut);
-        EXPECT_EQ(Record(input, everyByte), c.record) << input;
+        EXPECT_EQ(LineRecord(input, everyByte), c.record) << input;
     }
     // Positions count from the start that was given.
-    EXPECT_EQ(Record("a\r\nb", {2}, 100), "S100'a'[101,103]'b'E104");
+    EXPECT_EQ(LineRecord("a\r\nb", {2}, 100), "S100'a'[101,103]'b'E104");
 }
 
 TEST(LineMaker, RandomTextIsCutIntoMaximalBreaksWhateverTheChunks) {
@@ -103,8 +103,8 @@ TEST(LineMaker, RandomTextIsCutIntoMaximalBreaksWhateverTheChunks) {
             cuts.push_back(random() % (input.size() + 1));
         std::sort(cuts.begin(), cuts.end());
 
-        LineRecorder const recorder = Feed(input, cuts);
-        ASSERT_EQ(recorder.record, Record(input, {})) << input;
+        LineRecorder const recorder = FeedLines(input, cuts);
+        ASSERT_EQ(recorder.record, LineRecord(input, {})) << input;
 
         // The lines and the bytes of their breaks put together are the input again; every break
         // takes its partner byte when one follows.

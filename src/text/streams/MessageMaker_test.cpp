@@ -66,7 +66,7 @@ class MessageRecorder : public MessageReceiver, public DataReceiver, public Line
 };
 
 // Feeds input in pieces of the given size after an empty one and returns the record.
-std::string Record(std::string const& input, std::size_t piece) {
+std::string MessageRecord(std::string const& input, std::size_t piece) {
     MessageRecorder recorder;
     MessageMaker messageMaker(recorder);
     LineMaker lineMaker(messageMaker);
@@ -108,7 +108,7 @@ TEST(MessageMaker, HeadersAndBodyInEveryChunking) {
         {" x\r\nA: 1\r\n\r\n", "S0 F4 a='1'/8 B12(12)e12 E12"},
     };
     for (auto const& c : cases) {
-        EXPECT_EQ(Record(c.input, c.input.size() + 1), c.record) << c.input;
-        EXPECT_EQ(Record(c.input, 1), c.record) << c.input;
+        EXPECT_EQ(MessageRecord(c.input, c.input.size() + 1), c.record) << c.input;
+        EXPECT_EQ(MessageRecord(c.input, 1), c.record) << c.input;
     }
 }

@@ -10,6 +10,7 @@
 #include "text/unicode/LocaleConversion.h"
 #include "text/unicode/MakeLocalString.h"
 #include "text/unicode/Transcode.h"
+#include "testing/TestText.h"
 
 namespace {
 
@@ -26,11 +27,6 @@ class CTypeLocale {
     std::string m_old;
     bool m_ok;
 };
-
-UStringRef<UTF8> Utf8(std::string const& s) {
-    auto const* b = reinterpret_cast<UTF8::Unit const*>(s.data());
-    return UStringRef<UTF8>(b, b + s.size());
-}
 
 UStringRef<Local8Bit> Local(std::string const& s) {
     return UStringRef<Local8Bit>(s.data(), s.data() + s.size());
@@ -49,12 +45,12 @@ TEST(LocaleConversion, SingleByteLocale) {
     ASSERT_TRUE(locale.Ok()) << latin1 << " must be generated on this machine";
     EXPECT_STREQ("ISO-8859-1", UnixPlatform::IANAEncodingName(Local8Bit()).CString());
 
-    AutoNullTerminated<char> e = MakeLocalString(Utf8("\xc3\xa9"));  // é
+    AutoNullTerminated<char> e = MakeLocalString(U8("\xc3\xa9"));  // é
     EXPECT_EQ("\xe9", std::string(e.pointer));
     EXPECT_EQ(2u, e.ownedUnits);
 
-    EXPECT_THROW(MakeLocalString(Utf8("a\xe2\x82\xac")), UnixPlatform::WideToMultiByteConvertError);
-    EXPECT_THROW(MakeLocalString(Utf8("a\xc3")), InvalidTextEncoding);  // decoded before the locale
+    EXPECT_THROW(MakeLocalString(U8("a\xe2\x82\xac")), UnixPlatform::WideToMultiByteConvertError);
+    EXPECT_THROW(MakeLocalString(U8("a\xc3")), InvalidTextEncoding);  // decoded before the locale
 
     // Every Latin-1 character is one byte there and back.
     std::string all;
@@ -75,7 +71,7 @@ TEST(LocaleConversion, UTF8Locales) {
         ASSERT_TRUE(locale.Ok()) << name << " must be generated on this machine";
         EXPECT_STREQ("UTF-8", UnixPlatform::IANAEncodingName(Local8Bit()).CString());
 
-        AutoNullTerminated<char> euro = MakeLocalString(Utf8("\xe2\x82\xac 5"));
+        AutoNullTerminated<char> euro = MakeLocalString(U8("\xe2\x82\xac 5"));
         EXPECT_STREQ("\xe2\x82\xac 5", euro.pointer);
         EXPECT_THROW(UnixPlatform::ToNativeUnicode(Local("ok \xc3")),
                      UnixPlatform::MultiByteToWideConvertError);
@@ -114,7 +110,7 @@ TEST(LocaleConversion, EmbeddedZeroEndsTheTextAndEmptyIsNotNull) {
     AutoUString<UTF32> back = UnixPlatform::ToNativeUnicode(Local(narrow));
     EXPECT_EQ(std::vector<UTF32::Unit>{'x'}, std::vector<UTF32::Unit>(back.begin, back.end));
 
-    AutoNullTerminated<char> cut = MakeLocalString(Utf8(std::string("ab\0cd", 5)));
+    AutoNullTerminated<char> cut = MakeLocalString(U8(std::string("ab\0cd", 5)));
     EXPECT_STREQ("ab", cut.pointer);
     EXPECT_EQ(3u, cut.ownedUnits);
 
@@ -123,7 +119,7 @@ TEST(LocaleConversion, EmbeddedZeroEndsTheTextAndEmptyIsNotNull) {
     ASSERT_NE(nullptr, empty.begin);
     EXPECT_EQ(empty.begin, empty.end);
     EXPECT_EQ(0, *empty.end);
-    AutoNullTerminated<char> none = MakeLocalString(Utf8(std::string("\0x", 2)));
+    AutoNullTerminated<char> none = MakeLocalString(U8(std::string("\0x", 2)));
     EXPECT_EQ(AutoNullTerminated<char>::EmptyString(), none.pointer);
     EXPECT_EQ(0u, none.ownedUnits);
 }

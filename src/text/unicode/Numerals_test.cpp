@@ -8,12 +8,9 @@
 
 #include "text/bytes/AsciiNumerals.h"
 #include "text/unicode/Numeral.h"
+#include "testing/TestText.h"
 
 namespace {
-
-std::string Text(ConstData data) {
-    return MakeString(data);
-}
 
 template <class T>
 int Status(char const* text) {
@@ -102,16 +99,16 @@ TEST(AsciiNumerals, WithDefaultGivesDefaultOnAnyFailure) {
 }
 
 TEST(AsciiNumerals, MakeHonoursMinimumDigitsAndCapacity) {
-    EXPECT_EQ("", Text(MakeAsciiDecimalNumeral64(0, 0)));
-    EXPECT_EQ("0", Text(MakeAsciiDecimalNumeral64(0, 1)));
-    EXPECT_EQ("005", Text(MakeAsciiDecimalNumeral64(5, 3)));
-    EXPECT_EQ("12345", Text(MakeAsciiDecimalNumeral64(12345, 3)));
-    EXPECT_EQ("-9223372036854775808", Text(MakeAsciiSignedDecimalNumeral64(LLONG_MIN, 0)));
-    EXPECT_EQ("-005", Text(MakeAsciiSignedDecimalNumeral64(-5, 3)));
-    EXPECT_EQ("-005", Text(MakeAsciiSignedDecimalNumeral(-5, 3)));
-    EXPECT_EQ("4294967295", Text(MakeAsciiDecimalNumeral(4294967295UL, 0)));
-    EXPECT_EQ("-2147483648", Text(MakeAsciiSignedDecimalNumeral(-2147483647L - 1, 0)));
-    EXPECT_EQ("00ff", Text(MakeAsciiHexNumeral(255, 4)));
+    EXPECT_EQ("", Str(MakeAsciiDecimalNumeral64(0, 0)));
+    EXPECT_EQ("0", Str(MakeAsciiDecimalNumeral64(0, 1)));
+    EXPECT_EQ("005", Str(MakeAsciiDecimalNumeral64(5, 3)));
+    EXPECT_EQ("12345", Str(MakeAsciiDecimalNumeral64(12345, 3)));
+    EXPECT_EQ("-9223372036854775808", Str(MakeAsciiSignedDecimalNumeral64(LLONG_MIN, 0)));
+    EXPECT_EQ("-005", Str(MakeAsciiSignedDecimalNumeral64(-5, 3)));
+    EXPECT_EQ("-005", Str(MakeAsciiSignedDecimalNumeral(-5, 3)));
+    EXPECT_EQ("4294967295", Str(MakeAsciiDecimalNumeral(4294967295UL, 0)));
+    EXPECT_EQ("-2147483648", Str(MakeAsciiSignedDecimalNumeral(-2147483647L - 1, 0)));
+    EXPECT_EQ("00ff", Str(MakeAsciiHexNumeral(255, 4)));
     EXPECT_STREQ("007", MakeAsciiDecimalNumeral(7, 3).CString());
 
     // Exactly at each capacity works; one more digit fails.

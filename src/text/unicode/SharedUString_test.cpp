@@ -8,16 +8,13 @@
 #include <vector>
 
 #include "text/unicode/SharedUString.h"
+#include "testing/TestText.h"
 
 namespace {
 
 SharedUString<UTF8> Shared(std::string const& s) {
     auto const* b = reinterpret_cast<UTF8::Unit const*>(s.data());
     return MakeUString(UStringRef<UTF8>(b, b + s.size()));
-}
-
-std::string Text(UStringRef<UTF8> r) {
-    return std::string(reinterpret_cast<char const*>(r.begin), r.Length());
 }
 
 TEST(SharedUString, CopiesShareAndTheLastHolderFrees) {
@@ -27,7 +24,7 @@ TEST(SharedUString, CopiesShareAndTheLastHolderFrees) {
         EXPECT_EQ(a.begin, b.begin);
         a = Shared("replaced");  // the old text lives on in b
         EXPECT_TRUE(a.link.Alone() && b.link.Alone());
-        EXPECT_EQ("shared", Text(b));
+        EXPECT_EQ("shared", Str(b));
     }
     SharedUString<UTF8> c;
     c = a;

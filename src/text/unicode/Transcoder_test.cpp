@@ -66,7 +66,7 @@ Codes RandomScalars(std::mt19937& rng, std::size_t count) {
 // Feeds input through StreamTranscoder<Target, Source> in chunks cut at the given places and
 // returns what reached the target.
 template <class Target, class Source>
-std::vector<typename Target::Unit> Feed(std::vector<typename Source::Unit> const& input,
+std::vector<typename Target::Unit> FeedTranscoder(std::vector<typename Source::Unit> const& input,
                                         std::vector<std::size_t> cuts = {}) {
     Recorder<Target> recorder;
     StreamTranscoder<Target, Source> transcoder(recorder);
@@ -88,13 +88,13 @@ std::vector<typename Target::Unit> Feed(std::vector<typename Source::Unit> const
 template <class Target, class Source>
 void ExpectSameInEveryChunking(std::mt19937& rng, std::vector<typename Source::Unit> const& input,
                                std::vector<typename Target::Unit> const& expected) {
-    ASSERT_EQ(expected, (Feed<Target, Source>(input)));
+    ASSERT_EQ(expected, (FeedTranscoder<Target, Source>(input)));
     for (int round = 0; round < 8 && input.size() > 1; ++round) {
         std::vector<std::size_t> cuts(rng() % 12);
         for (auto& cut : cuts) cut = 1 + rng() % (input.size() - 1);
         std::sort(cuts.begin(), cuts.end());
         cuts.erase(std::unique(cuts.begin(), cuts.end()), cuts.end());
-        ASSERT_EQ(expected, (Feed<Target, Source>(input, cuts)));
+        ASSERT_EQ(expected, (FeedTranscoder<Target, Source>(input, cuts)));
     }
 }
 
@@ -129,9 +129,9 @@ TEST(StreamTranscoder, UTF8DecoderTakesThePayloadOfEveryForm) {
         {{0xF4, 0x90, 0x80, 0x80}, 0x110000},
         {{0xF7, 0xBF, 0xBF, 0xBF}, 0x1FFFFF},
     };
-    for (auto const& c : cases) EXPECT_EQ(Codes{c.value}, (Feed<UTF32, UTF8>(c.input)));
+    for (auto const& c : cases) EXPECT_EQ(Codes{c.value}, (FeedTranscoder<UTF32, UTF8>(c.input)));
     // The overlong zero comes back as one zero byte.
-    EXPECT_EQ(Bytes{0}, (Feed<UTF8, UTF32>(Feed<UTF32, UTF8>({0xC0, 0x80}))));
+    EXPECT_EQ(Bytes{0}, (FeedTranscoder<UTF8, UTF32>(FeedTranscoder<UTF32, UTF8>({0xC0, 0x80}))));
 }
 
 // Feeds the units one Receive each. Returns the index of the unit whose Receive threw, the
@@ -206,27 +206,27 @@ TEST(StreamTranscoder, BadChunkSendsNothingStagedButKeepsEarlierFlushes) {
 }
 
 TEST(StreamTranscoder, EmptyReceiveDropsTheCarriedPartialCharacter) {
-    EXPECT_EQ(Codes{'a'}, (Feed<UTF32, UTF8>({'a', 0xE2, 0x82}, {3})));
-    EXPECT_EQ(Codes{}, (Feed<UTF32, UTF16>({0xD83D}, {1})));
+    EXPECT_EQ(Codes{'a'}, (FeedTranscoder<UTF32, UTF8>({'a', 0xE2, 0x82}, {3})));
+    EXPECT_EQ(Codes{}, (FeedTranscoder<UTF32, UTF16>({0xD83D}, {1})));
 }
 
 TEST(StreamTranscoder, EncodersRejectSurrogatesAndValuesBeyondThePlanes) {
     for (UTF32::Unit cp : {0xD800u, 0xDBFFu, 0xDC00u, 0xDFFFu, 0x110000u, 0x1FFFFFu, 0xFFFFFFFFu}) {
-        EXPECT_THROW((Feed<UTF8, UTF32>({'a', cp})), InvalidTextEncoding) << cp;
-        EXPECT_THROW((Feed<UTF16, UTF32>({'a', cp})), InvalidTextEncoding) << cp;
+        EXPECT_THROW((FeedTranscoder<UTF8, UTF32>({'a', cp})), InvalidTextEncoding) << cp;
+        EXPECT_THROW((FeedTranscoder<UTF16, UTF32>({'a', cp})), InvalidTextEncoding) << cp;
     }
     Codes const edges = {0, 0x7F, 0x80, 0x7FF, 0x800, 0xD7FF, 0xE000, 0xFFFF, 0x10000, 0x10FFFF};
     Bytes utf8;
     Words utf16;
     for (auto cp : edges) AppendUTF8(utf8, cp), AppendUTF16(utf16, cp);
-    EXPECT_EQ(utf8, (Feed<UTF8, UTF32>(edges)));
-    EXPECT_EQ(utf16, (Feed<UTF16, UTF32>(edges)));
+    EXPECT_EQ(utf8, (FeedTranscoder<UTF8, UTF32>(edges)));
+    EXPECT_EQ(utf16, (FeedTranscoder<UTF16, UTF32>(edges)));
 }
 
 TEST(StreamTranscoder, SevenBitSourcesRejectTheHighBit) {
     for (Bytes const& input : {Bytes{0x80}, Bytes{'a', 'b', 0xFF}}) {
-        EXPECT_THROW((Feed<UTF16, USAscii>(input)), InvalidTextEncoding);
-        EXPECT_THROW((Feed<UTF8, USAscii>(input)), InvalidTextEncoding);
+        EXPECT_THROW((FeedTranscoder<UTF16, USAscii>(input)), InvalidTextEncoding);
+        EXPECT_THROW((FeedTranscoder<UTF8, USAscii>(input)), InvalidTextEncoding);
     }
     // A chunk is checked whole before any of it is forwarded.
     Bytes clean = {'a', 'b', 'c'}, dirty = {'d', 'e', 0x80};

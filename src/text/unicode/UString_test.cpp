@@ -7,31 +7,23 @@
 #include "text/unicode/AutoNullTerminated.h"
 #include "text/unicode/UString.h"
 #include "text/unicode/UStringBuilder.h"
+#include "testing/TestText.h"
 
 namespace {
 
-UStringRef<UTF8> Ref(std::string const& s) {
-    auto const* b = reinterpret_cast<UTF8::Unit const*>(s.data());
-    return UStringRef<UTF8>(b, b + s.size());
-}
-
-std::string Text(UStringRef<UTF8> r) {
-    return std::string(reinterpret_cast<char const*>(r.begin), r.Length());
-}
-
 TEST(UString, OwnedStringsCopyMoveAndTerminate) {
     std::string source("h\0llo", 5);
-    AutoUString<UTF8> a = MakeUString(Ref(source));
-    EXPECT_EQ(source, Text(a));
+    AutoUString<UTF8> a = MakeUString(U8(source));
+    EXPECT_EQ(source, Str(a));
     EXPECT_EQ(0, *a.end);
     EXPECT_TRUE(UStringRef<UTF8>(a).nullTerminated);
 
-    AutoUString<UTF8> b = MakeUString(Ref("other"));
+    AutoUString<UTF8> b = MakeUString(U8("other"));
     b = std::move(a);  // frees "other": a leak would show under the sanitizers
     EXPECT_EQ(nullptr, a.begin);
-    EXPECT_EQ(source, Text(b));
+    EXPECT_EQ(source, Str(b));
 
-    AutoUString<UTF8> empty = MakeUString(Ref(""));
+    AutoUString<UTF8> empty = MakeUString(U8(""));
     EXPECT_EQ(nullptr, empty.begin);
     EXPECT_FALSE(UStringRef<UTF8>(empty).nullTerminated);
     AutoNullTerminated<UTF8::Unit> none = MakeNullTerminatedString(empty);
@@ -44,9 +36,9 @@ TEST(UString, OwnedStringsCopyMoveAndTerminate) {
     CopiedUString<UTF8> c(b), d(c);
     EXPECT_NE(c.begin, d.begin);
     d.begin[0] = 'H';
-    EXPECT_EQ(source, Text(c));
+    EXPECT_EQ(source, Str(c));
     c = d;
-    EXPECT_EQ("Hllo", Text(c).erase(1, 1));
+    EXPECT_EQ("Hllo", Str(c).erase(1, 1));
 }
 
 TEST(UString, EncodingCastMeasuresToTheZero) {
@@ -67,8 +59,8 @@ TEST(UString, EqualityAndOrderAreByUnsignedBytes) {
         std::string a(rng() % 4, '\0'), b(rng() % 4, '\0');
         for (auto& ch : a) ch = "\0a\x7f\x80"[rng() % 4];
         for (auto& ch : b) ch = "\0a\x7f\x80"[rng() % 4];
-        ASSERT_EQ(a < b, Ref(a) < Ref(b));
-        ASSERT_EQ(a == b, Ref(a) == Ref(b));
+        ASSERT_EQ(a < b, U8(a) < U8(b));
+        ASSERT_EQ(a == b, U8(a) == U8(b));
     }
     EXPECT_TRUE(UStringRef<UTF8>() == EncodingCast<UStringRef<UTF8>>(""));  // pointers don't count
 }
@@ -82,15 +74,15 @@ TEST(UStringBuilder, GrowsToTheLargerOfNeedAndDoubleAndRestartsEmpty) {
     } const steps[] = {{"abc", 4}, {"d", 4}, {"e", 8}, {"", 8}, {"fghijklmnopqrstuvwxyz", 26}};
     std::string all;
     for (auto const& step : steps) {
-        builder.Receive(Ref(step.chunk));
+        builder.Receive(U8(step.chunk));
         all += step.chunk;
         EXPECT_EQ(step.capacity, builder.capacity) << all;
-        EXPECT_EQ(all, Text(builder.Content()));
+        EXPECT_EQ(all, Str(builder.Content()));
     }
     builder.Start(UTF8());
     EXPECT_EQ(4u, builder.capacity);
-    builder.Receive(Ref("x"));
-    EXPECT_EQ("x", Text(builder.Content()));
+    builder.Receive(U8("x"));
+    EXPECT_EQ("x", Str(builder.Content()));
 }
 
 }  // namespace
