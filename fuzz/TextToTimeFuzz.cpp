@@ -6,8 +6,8 @@
 #include <cstdlib>
 
 #include "text/bytes/BytesErrors.h"
-#include "time/TimeErrors.h"
 #include "time/TextToTime.h"
+#include "time/TimeErrors.h"
 #include "time/TimeText.h"
 
 namespace {

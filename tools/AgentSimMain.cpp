@@ -82,7 +82,8 @@ int main(int argc, char** argv) {
                 std::fprintf(stderr, "agentsim: cannot read %s\n", step.c_str());
                 return 2;
             }
-            std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+            std::string text((std::istreambuf_iterator<char>(in)),
+                             std::istreambuf_iterator<char>());
             std::printf(">>> frame from %s, %zu bytes\n", step.c_str(), text.size());
             agent.SendFrame(text);
         }

@@ -11,15 +11,15 @@
 #include <vector>
 
 struct ProcessEnd {
-    bool exited = false;    // ended through exit(); status holds the code
-    int status = 0;         // exit code, or the signal number when signalled
+    bool exited = false;  // ended through exit(); status holds the code
+    int status = 0;       // exit code, or the signal number when signalled
     bool signalled = false;
     double userSeconds = 0, systemSeconds = 0;
     long peakResidentKiB = 0;
 };
 
 class AgentSimulator {
-public:
+  public:
     AgentSimulator() = default;
     ~AgentSimulator();  // kills a process still running
     AgentSimulator(AgentSimulator const&) = delete;
@@ -50,7 +50,7 @@ public:
 
     pid_t Pid() const { return m_pid; }
 
-private:
+  private:
     bool TakeFrameFromBuffer(std::string& frame);
     void Reap(int status, struct rusage const& usage);
 

@@ -9,9 +9,9 @@
 #include "files/FileOperationsWithRetry.h"
 #include "files/FileReadingLoop.h"
 #include "files/FileReadingPath.h"
-#include "files/RetryPolicy.h"
 #include "files/FileWriter.h"
 #include "files/FileWritingPath.h"
+#include "files/RetryPolicy.h"
 #include "files/UnixFileInfo.h"
 
 namespace {

@@ -14,12 +14,12 @@
 #include "files/FileReader.h"
 #include "files/FileReadingLoop.h"
 #include "files/FileReadingPath.h"
-#include "testing/TemporaryDirectory.h"
 #include "files/FileWriter.h"
 #include "files/FileWritingPath.h"
 #include "files/ReadFile.h"
-#include "text/streams/StringReceiver.h"
 #include "testing/RandomBytes.h"
+#include "testing/TemporaryDirectory.h"
+#include "text/streams/StringReceiver.h"
 
 namespace {
 

@@ -5,10 +5,10 @@
 #include <cerrno>
 
 #include "files/FileErrors.h"
-#include "files/UnixFileInfo.h"
 #include "files/ReadFile.h"
 #include "files/RetryPolicy.h"
 #include "files/ThrowFileError.h"
+#include "files/UnixFileInfo.h"
 #include "text/streams/ChecksumReceiver.h"
 
 namespace UnixPlatform {

@@ -7,8 +7,8 @@
 
 #include "files/FileErrors.h"
 #include "files/FileLocationFunctions.h"
-#include "testing/TemporaryDirectory.h"
 #include "files/UnixFileInfo.h"
+#include "testing/TemporaryDirectory.h"
 
 TEST(FileLocation, FullPathNamesLoseTrailingSlashes) {
     std::pair<char const*, char const*> const rows[] = {

@@ -7,9 +7,9 @@
 
 #include <dirent.h>
 
+#include "files/AdviceFileTypes.h"
 #include "files/FileItem.h"
 #include "files/FileLocation.h"
-#include "files/AdviceFileTypes.h"
 #include "threads/DebuggableException.h"
 
 namespace UnixPlatform {

@@ -11,8 +11,8 @@
 
 #include "files/FileErrors.h"
 #include "files/FileItem.h"
-#include "testing/TemporaryDirectory.h"
 #include "files/UnixFileInfo.h"
+#include "testing/TemporaryDirectory.h"
 
 namespace {
 

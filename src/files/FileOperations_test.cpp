@@ -12,8 +12,8 @@
 #include "files/FileErrors.h"
 #include "files/FileLoop.h"
 #include "files/FileMove.h"
-#include "testing/TemporaryDirectory.h"
 #include "files/UniqueFileLocation.h"
+#include "testing/TemporaryDirectory.h"
 
 namespace {
 

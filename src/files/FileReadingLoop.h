@@ -4,10 +4,10 @@
 //
 //   for (loop.Start(path, start, end); loop.Remaining() != 0; ++loop) use(*loop);
 
+#include "files/FileErrors.h"
 #include "files/FileReader.h"
 #include "text/bytes/ConstData.h"
 #include "text/bytes/Range.h"
-#include "files/FileErrors.h"
 
 // The buffer and the path belong to the caller and must outlive the loop.
 class FileReadingLoop {

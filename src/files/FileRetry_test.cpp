@@ -8,9 +8,9 @@
 #include "files/FileDelete.h"
 #include "files/FileErrors.h"
 #include "files/FileOperationsWithRetry.h"
-#include "testing/TemporaryDirectory.h"
 #include "files/FileWritingPath.h"
 #include "files/RetryPolicy.h"
+#include "testing/TemporaryDirectory.h"
 
 namespace {
 

@@ -9,7 +9,7 @@ class XMLWriter;
 struct ClientUIErrorMessage {
     enum ErrorCode : uint32_t {
         NoError = 0,
-        NoFont = 1,          // Xt warned of kind "noFont"
+        NoFont = 1,            // Xt warned of kind "noFont"
         DialogBuildFailed = 2  // building a dialog threw; the debug string names the dialog
     };
 

@@ -8,7 +8,7 @@
 
 template <class T>
 class FiFoQueue {
-public:
+  public:
     FiFoQueue() = default;
     ~FiFoQueue() { Clear(); }
     FiFoQueue(FiFoQueue const&) = delete;
@@ -56,7 +56,7 @@ public:
         m_tail = nullptr;
     }
 
-private:
+  private:
     struct Node {
         Node* next;
         Node* previous;

@@ -17,6 +17,6 @@ extern bool international;     // the session runs in a real locale
 extern bool m_snoozable;       // the action dialog offers snoozing
 extern XtAppContext app_context;
 extern Display* display;
-extern Widget zolHidden;         // the hidden shell that other X clients talk to
-extern UnixPipe* clientPipe;     // the one pipe; main also holds a reference on it
+extern Widget zolHidden;          // the hidden shell that other X clients talk to
+extern UnixPipe* clientPipe;      // the one pipe; main also holds a reference on it
 extern bool hiddenWindowPending;  // the hidden shell is still to be made

@@ -16,6 +16,6 @@ struct UIMessage {
     // Returns the number of bytes of the text; 0 for a null text.
     unsigned long Length() const;
 
-    uint32_t m_type = 0;  // always 0; carried along, never put on the wire
+    uint32_t m_type = 0;       // always 0; carried along, never put on the wire
     AutoUString<UTF8> m_text;  // the document; null when empty
 };

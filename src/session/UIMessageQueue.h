@@ -7,7 +7,7 @@
 #include "threads/AccessLock.h"
 
 class UIMessageQueue {
-public:
+  public:
     // Appends a deep copy of the message under the lock; the caller keeps its own.
     void WriteMessage(UIMessage& message);
     // Swaps the whole contents with the caller's queue under the lock. Pass an empty queue.
@@ -15,7 +15,7 @@ public:
     // Returns whether the queue holds nothing, under the lock.
     bool IsEmpty() const;
 
-private:
+  private:
     mutable AccessLock m_lock;
     FiFoQueue<UIMessage> m_queue;
 };

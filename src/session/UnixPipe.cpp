@@ -121,7 +121,9 @@ bool UnixPipe::Killed() const {
     return m_killed;
 }
 
-void UnixPipe::Sleep(unsigned long milliseconds) const { MilliSecondSleep(milliseconds); }
+void UnixPipe::Sleep(unsigned long milliseconds) const {
+    MilliSecondSleep(milliseconds);
+}
 
 unsigned long UnixPipe::AddReference() {
     AccessLocker locker(m_referenceLock);

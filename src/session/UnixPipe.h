@@ -13,18 +13,18 @@
 // Closes the descriptor it points to unless that is 0, and sets it to 0. Descriptor 0 is
 // therefore never closed by this class, deliberately: the agent owns the process's stdin.
 class PipeCloser {
-public:
+  public:
     explicit PipeCloser(int* descriptor) : m_descriptor(descriptor) {}
     ~PipeCloser();
     PipeCloser(PipeCloser const&) = delete;
     PipeCloser& operator=(PipeCloser const&) = delete;
 
-private:
+  private:
     int* m_descriptor;
 };
 
 class UnixPipe {
-public:
+  public:
     // The largest frame accepted from the agent; writing has no limit.
     static uint32_t const maximumFrameLength = 2097152;
 
@@ -54,7 +54,7 @@ public:
     void ReadMessageFromPipe(UIMessage& message);
     void WriteMessageToPipe(UIMessage& message);
 
-private:
+  private:
     PortableThread* ReadThread() const;
     PortableThread* WriteThread() const;
     int ReadDescriptor() const;
@@ -85,7 +85,7 @@ private:
 // A counted hold on a pipe: the constructor adds a reference, the destructor removes it and
 // deletes the pipe when it was the last. Anything thrown on that path is swallowed.
 class UnixPipeRef {
-public:
+  public:
     explicit UnixPipeRef(UnixPipe* pipe);
     ~UnixPipeRef();
     UnixPipeRef(UnixPipeRef const&) = delete;

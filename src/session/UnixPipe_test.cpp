@@ -37,7 +37,9 @@ void Drain(UIMessageQueue& queue, std::vector<std::string>& into) {
     }
 }
 
-bool IsOpen(int descriptor) { return fcntl(descriptor, F_GETFD) != -1; }
+bool IsOpen(int descriptor) {
+    return fcntl(descriptor, F_GETFD) != -1;
+}
 
 // A pipe object on two real pipes: the test plays the agent on the far ends.
 struct PipeRig {

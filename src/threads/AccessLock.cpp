@@ -8,8 +8,14 @@ AccessLock::AccessLock() {
     pthread_mutexattr_destroy(&attributes);
 }
 
-AccessLock::~AccessLock() { pthread_mutex_destroy(&m_mutex); }
+AccessLock::~AccessLock() {
+    pthread_mutex_destroy(&m_mutex);
+}
 
-void AccessLock::Lock() { pthread_mutex_lock(&m_mutex); }
+void AccessLock::Lock() {
+    pthread_mutex_lock(&m_mutex);
+}
 
-void AccessLock::Unlock() { pthread_mutex_unlock(&m_mutex); }
+void AccessLock::Unlock() {
+    pthread_mutex_unlock(&m_mutex);
+}

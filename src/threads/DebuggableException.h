@@ -13,7 +13,7 @@ struct ExceptionDebuggingInfo {};
 // Failures are told apart by class. what() returns the name of the object's run-time type, so
 // that a class without text of its own still says what it is.
 class DebuggableException : public std::exception, public UnixPlatform::ExceptionDebuggingInfo {
-public:
+  public:
     DebuggableException() = default;
     DebuggableException(DebuggableException const&) = default;
     DebuggableException& operator=(DebuggableException const&) = default;
@@ -22,6 +22,6 @@ public:
     // Returns the demangled name of the run-time type; valid while the object lives.
     char const* what() const noexcept override;
 
-private:
+  private:
     mutable std::string m_typeName;
 };

@@ -17,7 +17,9 @@ Mutex::~Mutex() {
     pthread_mutex_destroy(&m_guard);
 }
 
-bool Mutex::Available() const { return m_count == 0 || pthread_equal(m_owner, pthread_self()); }
+bool Mutex::Available() const {
+    return m_count == 0 || pthread_equal(m_owner, pthread_self());
+}
 
 void Mutex::Acquire() {
     ++m_count;

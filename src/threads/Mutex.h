@@ -9,7 +9,7 @@
 namespace UnixPlatform {
 
 class Mutex {
-public:
+  public:
     // Throws MutexError if the guard or the condition cannot be made.
     Mutex();
     ~Mutex();
@@ -21,7 +21,7 @@ public:
     // Adds one acquisition for the calling thread. Call with the guard held.
     void Acquire();
 
-private:
+  private:
     friend Mutex* WaitForMutex(Mutex&);
     friend Mutex* TryMutex(Mutex&);
     friend void ReleaseMutex(Mutex*);

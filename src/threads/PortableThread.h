@@ -7,7 +7,7 @@
 #include <atomic>
 
 class PortableThread {
-public:
+  public:
     // Does not start anything. runToCompletion chooses the entry function: true lets the
     // thread delete itself as soon as its function returns; false waits for Abandon first.
     PortableThread(void (*function)(void*), void* argument, bool runToCompletion);
@@ -38,7 +38,7 @@ public:
     // The floor for a new thread's stack; a larger default is left alone.
     static unsigned long const minimumStackSize;
 
-private:
+  private:
     // One writer each, the other side only waits for the change; atomic so that the wait is
     // well defined under the C++ memory model.
     std::atomic<bool> m_abandoned{false};

@@ -6,16 +6,18 @@
 #include <chrono>
 #include <thread>
 
+#include "testing/Eventually.h"
 #include "threads/AccessLock.h"
 #include "threads/AtThreadExit.h"
 #include "threads/Mutex.h"
 #include "threads/PortableThread.h"
-#include "testing/Eventually.h"
 
 namespace {
 
 std::atomic<int> exitRoutineRuns{0};
-void CountExit() { ++exitRoutineRuns; }
+void CountExit() {
+    ++exitRoutineRuns;
+}
 
 struct Probe {
     std::atomic<bool> ran{false};

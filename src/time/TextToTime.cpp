@@ -1,7 +1,7 @@
 #include "time/TextToTime.h"
 
-#include "time/TimeErrors.h"
 #include "time/TimeAutomaton.h"
+#include "time/TimeErrors.h"
 #include "time/TimeLexer.h"
 #include "time/TimeParser.h"
 

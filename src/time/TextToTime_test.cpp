@@ -6,9 +6,9 @@
 #include <random>
 #include <string>
 
+#include "testing/TimeReading.h"
 #include "threads/DebuggableException.h"
 #include "time/TimeText.h"
-#include "testing/TimeReading.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 // Tokens need no separators: "04Mar2000" is three tokens.
 
 #include "text/bytes/Ascii.h"
+#include "time/LexemeAcceptors.h"
 #include "time/Lexemes.h"
 #include "time/Lexer.h"
 #include "time/ReservedWordLexeme.h"
 #include "time/TimeLanguage.h"
-#include "time/LexemeAcceptors.h"
 #include "time/TimeNumeralLexeme.h"
 
 // Everything the lexer of the time language delivers: reserved words, numerals, characters and

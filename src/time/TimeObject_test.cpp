@@ -4,10 +4,10 @@
 
 #include <random>
 
+#include "testing/TimeReading.h"
 #include "time/Clocks.h"
 #include "time/TimeMark.h"
 #include "time/ZonedTimeOfDay.h"
-#include "testing/TimeReading.h"
 
 namespace {
 

@@ -16,7 +16,8 @@ TEST(TimeText, FormsOfKnownValues) {
     EXPECT_EQ(Str(ZonedTimeOfDayToText(ZonedTimeOfDay(time, TimeZone(-19800)))), "07:05:09 -0530");
     EXPECT_EQ(Str(TimeToText(TimeObject(date, time, TimeZone(-19800)))),
               "Sat, 04 Mar 2000 07:05:09 -0530");
-    EXPECT_EQ(Str(TimeToExcelText(TimeObject(date, time, TimeZone(-19800)))), "2000-03-04 07:05:09");
+    EXPECT_EQ(Str(TimeToExcelText(TimeObject(date, time, TimeZone(-19800)))),
+              "2000-03-04 07:05:09");
     EXPECT_EQ(Str(TimeToText(Instant(952153509000000LL), TimeZone(3600))),
               "Sat, 04 Mar 2000 08:05:09 +0100");
 

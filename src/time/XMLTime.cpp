@@ -5,10 +5,10 @@
 #include <string>
 
 #include "text/bytes/AsciiNumerals.h"
+#include "time/TimeErrors.h"
 #include "time/TimeObject.h"
 #include "time/TimeText.h"
 #include "time/TimeZone.h"
-#include "time/TimeErrors.h"
 #include "time/XMLDurationParser.h"
 
 namespace {

@@ -9,11 +9,11 @@
 #include <stdexcept>
 #include <string>
 
+#include "testing/TestText.h"
 #include "text/bytes/AsciiNumerals.h"
 #include "text/bytes/BytesErrors.h"
-#include "time/TimeObject.h"
 #include "time/TimeErrors.h"
-#include "testing/TestText.h"
+#include "time/TimeObject.h"
 
 namespace {
 

@@ -4,9 +4,9 @@
 
 #include <string>
 
+#include "testing/XMLDump.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLErrors.h"
-#include "testing/XMLDump.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include <sstream>
 #include <string>
 
+#include "testing/XMLDump.h"
 #include "text/unicode/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
-#include "testing/XMLDump.h"
 
 namespace {
 
@@ -154,8 +154,9 @@ std::string RandomName(std::mt19937& random) {
 XMLElement RandomTree(std::mt19937& random, int depth) {
     XMLElement::AttributeMap attributes;
     for (unsigned count = random() % 4; count > 0; --count)
-        attributes.insert_or_assign(SharedUString<UTF8>(MakeUString(U8(RandomName(random)))),
-                                    SharedUString<UTF8>(MakeUString(U8(RandomMarkupText(random, 8)))));
+        attributes.insert_or_assign(
+            SharedUString<UTF8>(MakeUString(U8(RandomName(random)))),
+            SharedUString<UTF8>(MakeUString(U8(RandomMarkupText(random, 8)))));
     XMLElement element(U8(RandomName(random)), attributes);
     if (random() % 3 != 0) element.AppendCharacters(U8(RandomMarkupText(random, 12)));
     for (int children = depth > 0 ? random() % 4 : 0; children > 0; --children)

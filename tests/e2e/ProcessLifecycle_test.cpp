@@ -70,7 +70,8 @@ TEST(ProcessLifecycle, BytesOneAtATimeAndEmptyFramesDoNoHarm) {
     AgentSimulator agent;
     StartAndGreet(agent);
     std::string document = "<ClientToUI><QuietModeEnd></QuietModeEnd></ClientToUI>";
-    std::string stream = FrameHeader(0) + FrameHeader(static_cast<uint32_t>(document.size())) + document;
+    std::string stream =
+        FrameHeader(0) + FrameHeader(static_cast<uint32_t>(document.size())) + document;
     for (char byte : stream) ASSERT_TRUE(agent.SendRaw(std::string(1, byte)));
     EXPECT_FALSE(agent.WaitForExit(2500).has_value());
     agent.CloseToProcess();

@@ -4,9 +4,9 @@
 #include <random>
 #include <string>
 
+#include "testing/TestText.h"
 #include "text/bytes/Ascii.h"
 #include "text/bytes/Bits.h"
-#include "testing/TestText.h"
 
 // The C library's classes in the "C" locale are an independent statement of the same sets.
 TEST(Ascii, SetsMatchTheCLocaleClasses) {

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "text/bytes/ConstData.h"
-#include "text/bytes/BytesErrors.h"
 #include "testing/TestText.h"
+#include "text/bytes/BytesErrors.h"
+#include "text/bytes/ConstData.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 // Decodes Base64 lines into a byte stream for a DataReceiver, through a staging buffer on the
 // stack. Line breaks mean nothing to Base64 and are dropped, like any byte outside the alphabet.
 
-#include "text/streams/Base64Decoder.h"
 #include "text/bytes/ConstData.h"
+#include "text/streams/Base64Decoder.h"
 #include "text/streams/DataReceiver.h"
 #include "text/streams/LineReceiver.h"
 

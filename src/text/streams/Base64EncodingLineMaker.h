@@ -4,8 +4,8 @@
 // bytes: positions count only the encoded characters, and each break is the empty range at the
 // running position.
 
-#include "text/streams/Base64Encoder.h"
 #include "text/bytes/ConstData.h"
+#include "text/streams/Base64Encoder.h"
 #include "text/streams/DataReceiver.h"
 #include "text/streams/LineReceiver.h"
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "testing/RandomBytes.h"
+#include "testing/TestText.h"
 #include "text/streams/Base64.h"
 #include "text/streams/Base64Decoder.h"
 #include "text/streams/Base64DecodingDataMaker.h"
@@ -14,8 +16,6 @@
 #include "text/streams/StreamHelpers.h"
 #include "text/streams/StringReceiver.h"
 #include "text/streams/VectorAppender.h"
-#include "testing/RandomBytes.h"
-#include "testing/TestText.h"
 
 namespace {
 
@@ -101,7 +101,8 @@ TEST(Base64, DecodingSkipsEveryByteOutsideTheAlphabet) {
 TEST(Base64, RandomBytesSurviveAnyChunkingOfTheFilters) {
     std::mt19937 random(20261121);
     for (int round = 0; round < 300; ++round) {
-        std::vector<unsigned char> bytes = RandomBytes<std::vector<unsigned char>>(random, random() % 200);
+        std::vector<unsigned char> bytes =
+            RandomBytes<std::vector<unsigned char>>(random, random() % 200);
         std::string const expected = Base64Encode(bytes);
         ASSERT_EQ(expected.size(), (bytes.size() + 2) / 3 * 4);
 

@@ -1,6 +1,5 @@
 #include "text/streams/DataReceiver.h"
 
-
 DataWriter& DataReceiver::operator<<(ConstData data) {
     Receive(data);
     return *this;

@@ -6,10 +6,10 @@
 
 #include "text/bytes/Ascii.h"
 #include "text/bytes/ConstData.h"
+#include "text/bytes/Range.h"
 #include "text/streams/DataReceiver.h"
 #include "text/streams/LineReceiver.h"
 #include "text/streams/MessageReceiver.h"
-#include "text/bytes/Range.h"
 
 class HeaderMaker : public LineReceiver {
   public:

@@ -49,7 +49,7 @@ class LineRecorder : public LineReceiver {
 
 // Feeds input cut at the given places (in order) and returns what the receiver saw.
 LineRecorder FeedLines(std::string const& input, std::vector<std::size_t> cuts,
-                  unsigned long long start = 0) {
+                       unsigned long long start = 0) {
     LineRecorder recorder;
     LineMaker maker(recorder);
     maker.Start(start);
@@ -61,7 +61,7 @@ LineRecorder FeedLines(std::string const& input, std::vector<std::size_t> cuts,
 }
 
 std::string LineRecord(std::string const& input, std::vector<std::size_t> const& cuts,
-                   unsigned long long start = 0) {
+                       unsigned long long start = 0) {
     return FeedLines(input, cuts, start).record;
 }
 

@@ -5,10 +5,10 @@
 // headers.
 
 #include "text/bytes/ConstData.h"
+#include "text/bytes/Range.h"
 #include "text/streams/HeaderMaker.h"
 #include "text/streams/LineReceiver.h"
 #include "text/streams/MessageReceiver.h"
-#include "text/bytes/Range.h"
 
 class MessageMaker : public LineReceiver {
   public:

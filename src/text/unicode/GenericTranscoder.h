@@ -8,8 +8,8 @@
 // surrogates and values up to 0x1FFFFF decode; only the encoders from UTF-32 check values. Bad
 // input raises InvalidTextEncoding; nothing is ever replaced or skipped.
 
-#include "text/unicode/UnicodeErrors.h"
 #include "text/unicode/UTextReceiver.h"
+#include "text/unicode/UnicodeErrors.h"
 
 // Exists for the pairs (UTF32, UTF8), (UTF32, UTF16), (UTF8, UTF32), (UTF16, UTF32) and
 // (UTF16, USAscii). The target must outlive the transcoder. One thread at a time.

@@ -2,8 +2,8 @@
 // A transcoder between two encodings where the source's text is already valid target text:
 // every chunk is checked whole and then forwarded unchanged, with no staging and no copy.
 
-#include "text/unicode/UnicodeErrors.h"
 #include "text/unicode/UTextReceiver.h"
+#include "text/unicode/UnicodeErrors.h"
 
 // Exists for the pair (UTF8, USAscii). The target must outlive the transcoder.
 template <class Target, class Source>

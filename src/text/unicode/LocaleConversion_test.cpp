@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "text/unicode/UnicodeErrors.h"
+#include "testing/TestText.h"
 #include "text/unicode/LocaleConversion.h"
 #include "text/unicode/MakeLocalString.h"
 #include "text/unicode/Transcode.h"
-#include "testing/TestText.h"
+#include "text/unicode/UnicodeErrors.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <random>
 #include <string>
 
+#include "testing/TestText.h"
 #include "text/bytes/AsciiNumerals.h"
 #include "text/unicode/Numeral.h"
-#include "testing/TestText.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "text/unicode/SharedUString.h"
 #include "testing/TestText.h"
+#include "text/unicode/SharedUString.h"
 
 namespace {
 

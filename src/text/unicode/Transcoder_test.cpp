@@ -67,7 +67,7 @@ Codes RandomScalars(std::mt19937& rng, std::size_t count) {
 // returns what reached the target.
 template <class Target, class Source>
 std::vector<typename Target::Unit> FeedTranscoder(std::vector<typename Source::Unit> const& input,
-                                        std::vector<std::size_t> cuts = {}) {
+                                                  std::vector<std::size_t> cuts = {}) {
     Recorder<Target> recorder;
     StreamTranscoder<Target, Source> transcoder(recorder);
     transcoder.Start(Source());

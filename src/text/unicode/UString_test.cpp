@@ -4,10 +4,10 @@
 #include <string>
 #include <utility>
 
+#include "testing/TestText.h"
 #include "text/unicode/AutoNullTerminated.h"
 #include "text/unicode/UString.h"
 #include "text/unicode/UStringBuilder.h"
-#include "testing/TestText.h"
 
 namespace {
 
