@@ -2,9 +2,14 @@
 
 UIMessageQueue readQ;
 UIMessageQueue writeQ;
+UICommandQueue uiCommandQ;
+std::vector<ActionRequest> actions;
 bool initialized = false;
 bool inQuietMode = false;
 bool international = false;
+FileLocation m_baseDirectory;
+Instant m_postponedTo;  // zero: long past, so nothing is postponed
+TimeInterval m_remindInterval;
 bool m_snoozable = true;
 XtAppContext app_context = nullptr;
 Display* display = nullptr;
