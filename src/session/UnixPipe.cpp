@@ -1,5 +1,6 @@
 #include "session/UnixPipe.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -48,6 +49,14 @@ void WriteThreadMain(void* argument) {
     } catch (...) {
     }
     delete reference;
+}
+
+// Blocks until the descriptor has data, has reached its end or has failed; the read that follows
+// tells which.
+void WaitUntilReadable(int descriptor) {
+    pollfd wanted{descriptor, POLLIN, 0};
+    while (::poll(&wanted, 1, -1) < 0 && errno == EINTR) {
+    }
 }
 
 // Makes a thread for entry on the pipe; returns null if it could not start.
@@ -161,9 +170,14 @@ void UnixPipe::ReadExactly(unsigned char* into, unsigned long size) {
         ssize_t got = read(descriptor, into, size);
         if (got == 0) throw UnixPipeReadMessageError();
         if (got < 0) {
-            // An interrupted read is tried again; any other failure ends the stream, since
-            // going on would read into the wrong place or spin without end.
+            // An interrupted read is tried again. A descriptor that a parent left non-blocking
+            // has nothing yet: wait for data as a blocking read would. Any other failure ends
+            // the stream, since going on would read into the wrong place or spin without end.
             if (errno == EINTR) continue;
+            if (errno == EAGAIN || errno == EWOULDBLOCK) {
+                WaitUntilReadable(descriptor);
+                continue;
+            }
             throw UnixPipeReadMessageError();
         }
         into += got;

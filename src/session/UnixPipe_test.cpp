@@ -59,9 +59,14 @@ struct PipeRig {
     UnixPipe* pipe;
     UnixPipeRef* reference;
 
-    PipeRig() {
+    // With nonBlockingRead the descriptor the pipe reads from is non-blocking, as a parent may
+    // leave the process's descriptor 0.
+    explicit PipeRig(bool nonBlockingRead = false) {
         EXPECT_EQ(::pipe(toProcess), 0);
         EXPECT_EQ(::pipe(fromProcess), 0);
+        if (nonBlockingRead) {
+            EXPECT_EQ(fcntl(toProcess[0], F_SETFL, O_NONBLOCK), 0);
+        }
         pipe = new UnixPipe(readQueue, writeQueue);
         reference = new UnixPipeRef(pipe);
         EXPECT_TRUE(pipe->Start(toProcess[0], fromProcess[1]));
@@ -211,4 +216,24 @@ TEST(UnixPipeRef, LastReferenceDeletesAndCountNeverGoesBelowZero) {
         EXPECT_EQ(pipe->GetRefCount(), 1u);
     }
     // The pipe is gone now; AddressSanitizer would report any further use.
+}
+
+TEST(UnixPipe, ANonBlockingReadDescriptorWaitsForDataInsteadOfEndingTheStream) {
+    PipeRig rig(/*nonBlockingRead=*/true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_FALSE(rig.pipe->Killed()) << "an empty non-blocking pipe ended the session";
+    std::string const stream = Frame("first") + Frame("second");
+    for (char byte : stream) {
+        rig.Send(std::string(1, byte));
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    std::vector<std::string> seen;
+    ASSERT_TRUE(Eventually([&] {
+        Drain(rig.readQueue, seen);
+        return seen.size() >= 2;
+    }));
+    EXPECT_EQ(seen, (std::vector<std::string>{"first", "second"}));
+    EXPECT_FALSE(rig.pipe->Killed());
+    rig.CloseAgentSide();
+    EXPECT_TRUE(Eventually([&] { return rig.pipe->Killed(); })) << "end of stream went unseen";
 }
