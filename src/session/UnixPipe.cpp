@@ -85,24 +85,32 @@ bool UnixPipe::Start(int readDescriptor, int writeDescriptor) {
         m_readDescriptor = readDescriptor;
         m_writeDescriptor = writeDescriptor;
     }
+    // Each thread is started and its field set under the kill lock: Kill on another thread
+    // reads the field, and the new thread's loop ends at once if it finds the field null, so it
+    // must wait until the field is set. A reference for a thread that did not start is given
+    // back only after the lock is released: giving it back takes the reference lock, and no
+    // lock is held while another is taken.
     UnixPipeRef* readReference = new UnixPipeRef(this);
+    bool readStarted;
     {
-        // The thread fields are set under the kill lock, since Kill on another thread reads them.
         AccessLocker locker(m_killLock);
         m_readThread = StartThread(ReadThreadMain, readReference);
-        if (!m_readThread) {
-            delete readReference;
-            return false;
-        }
+        readStarted = m_readThread != nullptr;
+    }
+    if (!readStarted) {
+        delete readReference;
+        return false;
     }
     UnixPipeRef* writeReference = new UnixPipeRef(this);
+    bool writeStarted;
     {
         AccessLocker locker(m_killLock);
         m_writeThread = StartThread(WriteThreadMain, writeReference);
-        if (!m_writeThread) {
-            delete writeReference;
-            return false;
-        }
+        writeStarted = m_writeThread != nullptr;
+    }
+    if (!writeStarted) {
+        delete writeReference;
+        return false;
     }
     return true;
 }
