@@ -12,6 +12,8 @@
 #include <thread>
 #include <vector>
 
+#include "threads/ThreadKiller.h"
+
 namespace {
 
 UIMessage MessageOf(std::string const& text) {
@@ -285,4 +287,14 @@ TEST(UnixPipe, StartThatCannotMakeAThreadGivesBackItsReference) {
     ASSERT_TRUE(WIFEXITED(status));
     EXPECT_EQ(WEXITSTATUS(status), 0) << "10, 11, 15: set-up; 12: a thread started all the same; "
                                          "13: a reference was kept; 14: the pipe was killed";
+}
+
+// The process-wide stop switch, set from another thread, ends the write loop at its next round
+// and so the pipe. The switch is read across threads: ThreadSanitizer checks that it may be.
+TEST(UnixPipe, TheStopSwitchEndsTheLoops) {
+    PipeRig rig;
+    ThreadKiller::m_kill = true;
+    bool const killed = Eventually([&] { return rig.pipe->Killed(); });
+    ThreadKiller::m_kill = false;
+    EXPECT_TRUE(killed);
 }

@@ -1,3 +1,3 @@
 #include "threads/ThreadKiller.h"
 
-bool ThreadKiller::m_kill = false;
+std::atomic<bool> ThreadKiller::m_kill{false};
