@@ -1,7 +1,7 @@
 #include "session/SessionState.h"
 
-UIMessageQueue readQ;
-UIMessageQueue writeQ;
+UIMessageQueue& readQ = *new UIMessageQueue;
+UIMessageQueue& writeQ = *new UIMessageQueue;
 UICommandQueue uiCommandQ;
 std::vector<ActionRequest> actions;
 bool initialized = false;

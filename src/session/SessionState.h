@@ -11,7 +11,9 @@
 #include "session/UIMessageQueue.h"
 #include "session/UnixPipe.h"
 
-extern UIMessageQueue readQ;          // frames received from the agent; the read thread appends
-extern UIMessageQueue writeQ;         // frames to send to the agent; the write thread drains
+// The two queues live on the heap and are never destroyed: the pipe's threads are detached and
+// may still use them while exit() runs the static destructors.
+extern UIMessageQueue& readQ;   // frames received from the agent; the read thread appends
+extern UIMessageQueue& writeQ;  // frames to send to the agent; the write thread drains
 extern UICommandQueue uiCommandQ;     // decisions made in the dialogs
 extern FileLocation m_baseDirectory;  // the session directory
