@@ -95,6 +95,10 @@ void CreateDirectoryForUserAppAccess(FileLocation const& path) {
 }
 
 void CreateDirectoryTree(FileLocation const& path) {
+    CreateDirectoryTree(path, DirectoryCreatingInfo());
+}
+
+void CreateDirectoryTree(FileLocation const& path, DirectoryCreatingInfo const& info) {
     path.RequireNonEmpty();
     UnixPlatform::UnixFileInfo const existing = Look(path);
     if (existing.IsDirectory()) {
@@ -104,7 +108,7 @@ void CreateDirectoryTree(FileLocation const& path) {
         throw FileFoundError(path, 0);
     }
     if (!path.IsRoot()) {
-        CreateDirectoryTree(path.Parent());
+        CreateDirectoryTree(path.Parent(), info);
     }
-    ForceDirectoryExistence(path, DirectoryCreatingInfo());
+    ForceDirectoryExistence(path, info);
 }

@@ -39,3 +39,5 @@ void CreateDirectoryForUserAppAccess(FileLocation const& path);
 // when it is a directory already; throws FileFoundError when something that is no directory
 // stands at the path or at one of its ancestors.
 void CreateDirectoryTree(FileLocation const& path);
+// The same with the mode of info for every directory it makes.
+void CreateDirectoryTree(FileLocation const& path, DirectoryCreatingInfo const& info);

@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "session/ClientUIErrorMessage.h"
+#include "session/DecisionDocuments.h"
 #include "session/ReadyForData.h"
 #include "session/SendErrorToClient.h"
 #include "session/SessionState.h"
@@ -55,4 +56,40 @@ TEST(ClientSender, ErrorReportGoesTwiceAndWaitsForTheWriteSide) {
         "\t\t<DebugString><![CDATA[noFont (<Misc>)]]></DebugString>\n"
         "\t\t<ErrorCode>1</ErrorCode>\n\t</ClientUIErrorMessage>\n</ClientToUI>";
     EXPECT_EQ(taken, (std::vector<std::string>{document, document}));
+}
+
+// The decision documents have the root "UIToClient"; the agent matches them byte for byte.
+TEST(ClientSender, DecisionDocumentsAreExactToTheByte) {
+    std::string const head = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<UIToClient>\n";
+    ActionTaken taken;
+    taken.m_id = 1001;
+    ActionTaken cancelled;
+    cancelled.m_id = 18446744073709551615ull;
+    cancelled.m_isCancel = true;
+    RemindTime remindTime;
+    remindTime.m_timeObject = TimeObject(Instant(952153509000000), TimeZone(0));
+    RemindInterval remindInterval;
+    remindInterval.m_timeInterval = TimeInterval(300000000);
+    RemindInterval none;
+    TakeWriteQueue();
+    SendToClient(pipeWriter, taken);
+    SendToClient(pipeWriter, cancelled);
+    SendToClient(pipeWriter, remindTime);
+    SendToClient(pipeWriter, remindInterval);
+    SendToClient(pipeWriter, none);
+    EXPECT_EQ(TakeWriteQueue(),
+              (std::vector<std::string>{
+                  head + "\t<ActionTaken>\n\t\t<IsCancel>false</IsCancel>\n"
+                         "\t\t<IsOffer>false</IsOffer>\n\t\t<ID>1001</ID>\n\t</ActionTaken>\n"
+                         "</UIToClient>",
+                  head + "\t<ActionTaken>\n\t\t<IsCancel>true</IsCancel>\n"
+                         "\t\t<IsOffer>false</IsOffer>\n\t\t<ID>18446744073709551615</ID>\n"
+                         "\t</ActionTaken>\n</UIToClient>",
+                  head + "\t<RemindTime>\n\t\t<TimeObject>Sat, 04 Mar 2000 07:05:09 +0000"
+                         "</TimeObject>\n\t</RemindTime>\n</UIToClient>",
+                  head + "\t<RemindInterval>\n\t\t<TimeInterval>PT5M</TimeInterval>\n"
+                         "\t</RemindInterval>\n</UIToClient>",
+                  head + "\t<RemindInterval>\n\t\t<TimeInterval>PT0S</TimeInterval>\n"
+                         "\t</RemindInterval>\n</UIToClient>",
+              }));
 }

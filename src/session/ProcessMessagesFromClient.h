@@ -1,6 +1,13 @@
 #pragma once
-// Takes up the documents the agent has sent since the last call.
+// The one place where the agent's documents take effect, on the main thread: once a second
+// while the process waits for its first document, and on every tick of the X loop afterwards.
 
-// Swaps out the read queue and handles each document in order. Swallows every failure: a bad
-// document costs the rest of its batch, never the process.
+// Takes the frames that have arrived (or, once, those deferred behind the first document) and
+// handles each document's messages in order: "ActionRequest", "InitializationInfo",
+// "RemoveRequest", "MessageRequest", "QuietModeStart", "QuietModeEnd"; other children are
+// skipped. Throws nothing: any failure drops the frame at hand and the rest of the batch, and
+// leaves what was handled before it in place.
 void ProcessMessagesFromClient();
+
+// Erases the first pending action with that ID; an ID that is not there is no error.
+void RemoveAction(unsigned long long id);

@@ -1,5 +1,6 @@
 #include "session/UnixPipe.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -49,6 +50,14 @@ void WriteThreadMain(void* argument) {
     delete reference;
 }
 
+// Blocks until the descriptor has data, has reached its end or has failed; the read that follows
+// tells which.
+void WaitUntilReadable(int descriptor) {
+    pollfd wanted{descriptor, POLLIN, 0};
+    while (::poll(&wanted, 1, -1) < 0 && errno == EINTR) {
+    }
+}
+
 // Makes a thread for entry on the pipe; returns null if it could not start.
 PortableThread* StartThread(void (*entry)(void*), UnixPipeRef* reference) {
     PortableThread* thread = PortableThread::CreatePortableThreadSuspended(entry, reference);
@@ -75,24 +84,32 @@ bool UnixPipe::Start(int readDescriptor, int writeDescriptor) {
         m_readDescriptor = readDescriptor;
         m_writeDescriptor = writeDescriptor;
     }
+    // Each thread is started and its field set under the kill lock: Kill on another thread
+    // reads the field, and the new thread's loop ends at once if it finds the field null, so it
+    // must wait until the field is set. A reference for a thread that did not start is given
+    // back only after the lock is released: giving it back takes the reference lock, and no
+    // lock is held while another is taken.
     UnixPipeRef* readReference = new UnixPipeRef(this);
+    bool readStarted;
     {
-        // The thread fields are set under the kill lock, since Kill on another thread reads them.
         AccessLocker locker(m_killLock);
         m_readThread = StartThread(ReadThreadMain, readReference);
-        if (!m_readThread) {
-            delete readReference;
-            return false;
-        }
+        readStarted = m_readThread != nullptr;
+    }
+    if (!readStarted) {
+        delete readReference;
+        return false;
     }
     UnixPipeRef* writeReference = new UnixPipeRef(this);
+    bool writeStarted;
     {
         AccessLocker locker(m_killLock);
         m_writeThread = StartThread(WriteThreadMain, writeReference);
-        if (!m_writeThread) {
-            delete writeReference;
-            return false;
-        }
+        writeStarted = m_writeThread != nullptr;
+    }
+    if (!writeStarted) {
+        delete writeReference;
+        return false;
     }
     return true;
 }
@@ -162,9 +179,14 @@ void UnixPipe::ReadExactly(unsigned char* into, unsigned long size) {
         ssize_t got = read(descriptor, into, size);
         if (got == 0) throw UnixPipeReadMessageError();
         if (got < 0) {
-            // An interrupted read is tried again; any other failure ends the stream, since
-            // going on would read into the wrong place or spin without end.
+            // An interrupted read is tried again. A descriptor that a parent left non-blocking
+            // has nothing yet: wait for data as a blocking read would. Any other failure ends
+            // the stream, since going on would read into the wrong place or spin without end.
             if (errno == EINTR) continue;
+            if (errno == EAGAIN || errno == EWOULDBLOCK) {
+                WaitUntilReadable(descriptor);
+                continue;
+            }
             throw UnixPipeReadMessageError();
         }
         into += got;

@@ -2,6 +2,8 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -12,6 +14,7 @@
 
 #include "testing/Eventually.h"
 #include "testing/PipeFrames.h"
+#include "threads/PortableThread.h"
 
 namespace {
 
@@ -49,9 +52,14 @@ struct PipeRig {
     UnixPipe* pipe;
     UnixPipeRef* reference;
 
-    PipeRig() {
+    // With nonBlockingRead the descriptor the pipe reads from is non-blocking, as a parent may
+    // leave the process's descriptor 0.
+    explicit PipeRig(bool nonBlockingRead = false) {
         EXPECT_EQ(::pipe(toProcess), 0);
         EXPECT_EQ(::pipe(fromProcess), 0);
+        if (nonBlockingRead) {
+            EXPECT_EQ(fcntl(toProcess[0], F_SETFL, O_NONBLOCK), 0);
+        }
         pipe = new UnixPipe(readQueue, writeQueue);
         reference = new UnixPipeRef(pipe);
         EXPECT_TRUE(pipe->Start(toProcess[0], fromProcess[1]));
@@ -201,4 +209,81 @@ TEST(UnixPipeRef, LastReferenceDeletesAndCountNeverGoesBelowZero) {
         EXPECT_EQ(pipe->GetRefCount(), 1u);
     }
     // The pipe is gone now; AddressSanitizer would report any further use.
+}
+
+TEST(UnixPipe, ANonBlockingReadDescriptorWaitsForDataInsteadOfEndingTheStream) {
+    PipeRig rig(/*nonBlockingRead=*/true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_FALSE(rig.pipe->Killed()) << "an empty non-blocking pipe ended the session";
+    std::string const stream = Frame("first") + Frame("second");
+    for (char byte : stream) {
+        rig.Send(std::string(1, byte));
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+    }
+    std::vector<std::string> seen;
+    ASSERT_TRUE(Eventually([&] {
+        Drain(rig.readQueue, seen);
+        return seen.size() >= 2;
+    }));
+    EXPECT_EQ(seen, (std::vector<std::string>{"first", "second"}));
+    EXPECT_FALSE(rig.pipe->Killed());
+    rig.CloseAgentSide();
+    EXPECT_TRUE(Eventually([&] { return rig.pipe->Killed(); })) << "end of stream went unseen";
+}
+
+// When a thread cannot be made the pipe gives back the reference it took for it, and the
+// caller's own is all that is left. The test runs itself again as a fresh process whose address
+// space is capped just above what it uses, so that no thread stack fits (a process that has run
+// threads keeps their stacks for reuse, so a fork would not do); the sanitizers need far more
+// room than that.
+TEST(UnixPipe, StartThatCannotMakeAThreadGivesBackItsReference) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "a capped address space does not suit a sanitizer's shadow memory";
+#endif
+    if (std::getenv("ZOL_CAPPED_START")) {
+        int toProcess[2], fromProcess[2];
+        if (::pipe(toProcess) != 0 || ::pipe(fromProcess) != 0) _exit(10);
+        UIMessageQueue readQueue, writeQueue;
+        UnixPipe* pipe = new UnixPipe(readQueue, writeQueue);
+        UnixPipeRef reference(pipe);
+        std::FILE* statm = std::fopen("/proc/self/statm", "r");
+        unsigned long pages = 0;
+        if (!statm || std::fscanf(statm, "%lu", &pages) != 1) _exit(10);
+        std::fclose(statm);
+        rlimit cap;
+        cap.rlim_cur = cap.rlim_max =
+            (pages + 256) * static_cast<unsigned long>(sysconf(_SC_PAGESIZE));
+        if (setrlimit(RLIMIT_AS, &cap) != 0) _exit(11);
+        if (pipe->Start(toProcess[0], fromProcess[1])) _exit(12);
+        if (pipe->GetRefCount() != 1) _exit(13);
+        if (pipe->Killed()) _exit(14);
+        _exit(0);
+    }
+    pid_t const child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        int const devNull = open("/dev/null", O_WRONLY);
+        dup2(devNull, 1);
+        dup2(devNull, 2);  // the thread layer reports the failure there
+        setenv("ZOL_CAPPED_START", "1", 1);
+        execl("/proc/self/exe", "UnixPipe_test",
+              "--gtest_filter=UnixPipe.StartThatCannotMakeAThreadGivesBackItsReference",
+              static_cast<char*>(nullptr));
+        _exit(15);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0) << "10, 11, 15: set-up; 12: a thread started all the same; "
+                                         "13: a reference was kept; 14: the pipe was killed";
+}
+
+// The process-wide stop switch, set from another thread, ends the write loop at its next round
+// and so the pipe. The switch is read across threads: ThreadSanitizer checks that it may be.
+TEST(UnixPipe, TheStopSwitchEndsTheLoops) {
+    PipeRig rig;
+    ThreadKiller::m_kill = true;
+    bool const killed = Eventually([&] { return rig.pipe->Killed(); });
+    ThreadKiller::m_kill = false;
+    EXPECT_TRUE(killed);
 }

@@ -8,7 +8,7 @@
 
 unsigned long const PortableThread::minimumStackSize = 0x80000;
 
-bool ThreadKiller::m_kill = false;
+std::atomic<bool> ThreadKiller::m_kill{false};
 
 void MilliSecondSleep(unsigned long ms) {
     if (ms / 1000 != 0) sleep(static_cast<unsigned>(ms / 1000));

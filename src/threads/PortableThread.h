@@ -51,9 +51,10 @@ class PortableThread {
 };
 
 // A process-wide stop switch that long-running thread loops read. Nothing in this program sets
-// it; a library user may, to make the pipe loops end.
+// it; a library user may, to make the pipe loops end. It is set on one thread and read on
+// others, hence atomic.
 struct ThreadKiller {
-    static bool m_kill;
+    static std::atomic<bool> m_kill;
 };
 
 // Sleeps ms milliseconds: whole seconds with sleep(), the remainder with usleep(). The plain

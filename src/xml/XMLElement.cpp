@@ -33,7 +33,19 @@ XMLElement& XMLElement::operator=(XMLElement&& other) noexcept {
     return *this;
 }
 
-XMLElement::~XMLElement() = default;
+// Children are taken apart one level at a time on a flat list, so that the depth of a tree never
+// becomes the depth of the call stack: a frame of nothing but nested start tags builds a chain
+// hundreds of thousands of elements deep.
+XMLElement::~XMLElement() {
+    if (children.empty()) return;
+    std::vector<XMLElement> pending(std::move(children));
+    while (!pending.empty()) {
+        XMLElement last(std::move(pending.back()));
+        pending.pop_back();
+        for (XMLElement& child : last.children) pending.push_back(std::move(child));
+        last.children.clear();
+    }
+}
 
 UStringRef<UTF8> XMLElement::GetValue() const {
     if (value.empty()) return UStringRef<UTF8>();

@@ -92,3 +92,15 @@ TEST(XMLElement, ValueIsNullWhenEmptyAndConcatenatesAppends) {
 }
 
 }  // namespace
+
+// A frame of the largest size holding nothing but start tags: the tree is a chain of some
+// 700000 elements, and freeing it must not take one stack frame per level.
+TEST(XMLElement, AChainAsDeepAsTheLargestFrameIsFreedWithoutRecursion) {
+    std::string text;
+    while (text.size() + 3 <= 2097152) text += "<a>";
+    std::unique_ptr<XMLElement> root = SimpleXML::Parse(U8(text));
+    std::size_t depth = 0;
+    for (XMLElement const* e = root.get(); !e->children.empty(); e = &e->children[0]) ++depth;
+    EXPECT_EQ(depth, text.size() / 3 - 1);
+    root.reset();
+}
