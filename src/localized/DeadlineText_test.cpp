@@ -1,45 +1,18 @@
 #include "localized/DeadlineText.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
-#include <time.h>
 
 #include <cstdint>
 #include <limits>
 #include <string>
 
+#include "testing/ScopedSettings.h"
 #include "testing/TestText.h"
 #include "text/InvalidTextEncoding.h"
 
 namespace {
 
-std::string Text(AutoUString<UTF8> const& text) {
-    return Str(UStringRef<UTF8>(text));
-}
-
-// Sets TZ for the life of the object and restores what was there.
-class ZoneForTest {
-  public:
-    explicit ZoneForTest(char const* zone) {
-        char const* old = ::getenv("TZ");
-        m_had = old != nullptr;
-        if (m_had) m_old = old;
-        ::setenv("TZ", zone, 1);
-        ::tzset();
-    }
-    ~ZoneForTest() {
-        if (m_had) {
-            ::setenv("TZ", m_old.c_str(), 1);
-        } else {
-            ::unsetenv("TZ");
-        }
-        ::tzset();
-    }
-
-  private:
-    bool m_had;
-    std::string m_old;
-};
+std::string Text(AutoUString<UTF8> const& text) { return Str(UStringRef<UTF8>(text)); }
 
 }  // namespace
 
@@ -149,12 +122,12 @@ TEST(FormattedLocalTime, ReadsTheInstantInTheLocalZone) {
     EXPECT_EQ(Text(UnixPlatform::FormattedDateRecord(DateRecord(4, March, 2000))),
               "Sat, 04 Mar 2000");
     {
-        ZoneForTest utc("UTC0");
+        ScopedTimeZone utc("UTC0");
         EXPECT_EQ(Text(UnixPlatform::FormattedLocalTime(Instant(0))), "Thu, 01 Jan 1970 00:00:00");
     }
     {
         // Five hours west, with no daylight saving time to depend on the date.
-        ZoneForTest west("EST5");
+        ScopedTimeZone west("EST5");
         EXPECT_EQ(Text(UnixPlatform::FormattedLocalTime(Instant(0))), "Wed, 31 Dec 1969 19:00:00");
     }
 }
