@@ -10,6 +10,7 @@
 #include "files/FileIOError.h"
 #include "localized/FormatOverrides.h"
 #include "localized/LocalizedErrors.h"
+#include "localized/LocalizedStrings.h"
 #include "localized/TranslationFiles.h"
 #include "localized/UFormat.h"
 #include "testing/ScopedSettings.h"
@@ -112,4 +113,33 @@ TEST_F(TranslationFile, TranslatedTextComesOutInTheLocalesEncoding) {
         EXPECT_THROW(local(UFormat("Locale test: ligature")),
                      UnixPlatform::WideToMultiByteConvertError);
     }
+}
+
+TEST_F(TranslationFile, CatalogueTextsAreLookedUpByTheirDefaultText) {
+    AddFile("catalogue.xlat",
+            "You have {number} pending actions.\tVous avez {number} actions en attente.\n"
+            "&Paste{_tab}Ctrl-V\t&Coller{_tab}Ctrl-V\n"
+            "Your administrator has disabled this feature between {start} and {end}.\t"
+            "From {end} back to {start}.\n"
+            "You Have {number} New Offers\t{number} offres\n"
+            "Quorvane Helmstead version {version}\tVersion {version}\n"
+            "Cancel\t{oops}\n");
+    using namespace LocalizedStrings;
+    auto text = [](AutoNullTerminated<char> const& local) { return std::string(local.pointer); };
+    // Singular, plural and none are three keys; only the plural is translated here.
+    EXPECT_EQ(text(TrayTip(2)), "Vous avez 2 actions en attente.");
+    EXPECT_EQ(text(TrayTip(1)), "You have 1 pending action.");
+    EXPECT_EQ(text(TrayTip(0)), "Click to open Quorvane Helmstead");
+    EXPECT_EQ(Str(UStringRef<UTF8>(AnnounceOffers(0))), "0 offres");
+    EXPECT_EQ(text(MenuPaste()), "&Coller\tCtrl-V");
+    EXPECT_EQ(text(AboutVersion()), std::string("Version ") + ZOL_VERSION);
+    {
+        ScopedTimeZone utc("UTC0");
+        Instant const noon(Instant((86400LL + 12 * 3600) * 1000000));
+        EXPECT_EQ(text(QuietModeExplanation(noon, noon + TimeInterval(3600000000LL))),
+                  "From 13:00:00 back to 12:00:00.");
+    }
+    // A bad override fails its own text when that is made, and no other.
+    EXPECT_THROW(Cancel(), UndefinedFormatVariable);
+    EXPECT_EQ(text(OK()), "OK");
 }
