@@ -8,6 +8,8 @@
 #include <string>
 
 #include "files/FileIOError.h"
+#include "localized/ActionSummary.h"
+#include "localized/DeadlineText.h"
 #include "localized/FormatOverrides.h"
 #include "localized/LocalizedErrors.h"
 #include "localized/LocalizedStrings.h"
@@ -142,4 +144,23 @@ TEST_F(TranslationFile, CatalogueTextsAreLookedUpByTheirDefaultText) {
     // A bad override fails its own text when that is made, and no other.
     EXPECT_THROW(Cancel(), UndefinedFormatVariable);
     EXPECT_EQ(text(OK()), "OK");
+}
+
+TEST_F(TranslationFile, SummariesAndDeadlinesTakeTheirTranslations) {
+    // Added before the first summary of the process: its table is made then, with overrides.
+    AddFile("summary.xlat",
+            "This action will require a system restart.\tRed\xC3\xA9marrage requis.\n"
+            "You must take this action within {DeadlineText}.\tD\xC3\xA9lai : {DeadlineText}.\n"
+            "{hours} hours\t{hours} heures\n");
+    struct Action {
+        bool m_restart, m_shutdown, m_forceRun, m_requestSave;
+        NullOr<Instant> deadline;
+        NullOr<Instant> Deadline() const { return deadline; }
+    };
+    Action restart{true, false, false, false, NullOr<Instant>()};
+    EXPECT_EQ(Str(UStringRef<UTF8>(ActionSummary(restart))), "Red\xC3\xA9marrage requis.");
+    Action timed{false, false, false, false, Instant::Now() + TimeInterval(3 * 3600000000LL)};
+    EXPECT_EQ(Str(UStringRef<UTF8>(ActionSummary(timed))), "D\xC3\xA9lai : 3 heures.");
+    EXPECT_EQ(Str(UStringRef<UTF8>(FormattedDeadline(TimeInterval(7200000000LL), false, false))),
+              "2 heures");
 }
