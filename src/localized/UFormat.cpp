@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <vector>
 
 #include "localized/FormatOverrides.h"
 #include "localized/LocalizedErrors.h"
@@ -37,20 +38,31 @@ void MakeFormatParameterBindings(UStringRef<UTF8> format, ConstArrayOf<UStringRe
 }
 
 AutoUString<UTF8> MakeUString(FormattedStringIterator first, FormattedStringIterator last) {
-    // Two passes, so that the result is allocated once at its exact size and every failure
-    // comes before anything is allocated.
-    std::size_t length = 0;
-    for (FormattedStringIterator segment = first; segment != last; ++segment) {
-        length += segment.Value().Length();
-    }
-    if (length == 0) return AutoUString<UTF8>();
-    UTF8::Unit* const buffer = new UTF8::Unit[length + 1];
-    UTF8::Unit* cursor = buffer;
+    // The values are gathered first, so that every failure comes before anything is allocated
+    // and the result is allocated once at its exact size. Texts of the dialogs have a few
+    // segments; longer ones spill into the heap.
+    UStringRef<UTF8> inlineValues[24];
+    std::vector<UStringRef<UTF8> > spilled;
+    std::size_t count = 0, length = 0;
     for (FormattedStringIterator segment = first; segment != last; ++segment) {
         UStringRef<UTF8> const value = segment.Value();
-        if (!value.Empty()) {
-            std::memcpy(cursor, value.begin, value.Length());
-            cursor += value.Length();
+        length += value.Length();
+        if (count < 24) {
+            inlineValues[count] = value;
+        } else {
+            if (spilled.empty()) spilled.assign(inlineValues, inlineValues + 24);
+            spilled.push_back(value);
+        }
+        ++count;
+    }
+    if (length == 0) return AutoUString<UTF8>();
+    UStringRef<UTF8> const* const values = spilled.empty() ? inlineValues : spilled.data();
+    UTF8::Unit* const buffer = new UTF8::Unit[length + 1];
+    UTF8::Unit* cursor = buffer;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (!values[i].Empty()) {
+            std::memcpy(cursor, values[i].begin, values[i].Length());
+            cursor += values[i].Length();
         }
     }
     *cursor = 0;

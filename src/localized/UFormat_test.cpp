@@ -194,3 +194,16 @@ TEST(UFormat, MakeLocalStringRendersIntoTheLocale) {
     EXPECT_STREQ(platform.pointer, "OK");
     EXPECT_THROW(MakeLocalString(UFormat("{a}")), TooManyFormatArguments);
 }
+
+TEST(UFormat, LongFormatsRenderWhole) {
+    // More segments than a rendering keeps on its stack.
+    std::string key, expected;
+    for (int i = 0; i < 40; ++i) {
+        key += "x{_tab}";
+        expected += "x\t";
+    }
+    key += "{a}.";
+    expected += "value.";
+    EXPECT_EQ(Outcome(key, nullptr, {"value"}), expected);
+    EXPECT_EQ(Outcome("{a}", key.c_str(), {"value"}), expected);
+}
