@@ -5,6 +5,7 @@
 #include <string>
 
 #include "text/bytes/ConstData.h"
+#include "text/unicode/AutoNullTerminated.h"
 #include "text/unicode/UString.h"
 
 // Returns a view of the string's bytes as UTF-8; the string must outlive the view. Not
@@ -18,6 +19,16 @@ inline UStringRef<UTF8> U8(std::string const& text) {
 inline std::string Str(UStringRef<UTF8> text) {
     if (!text.begin) return std::string();
     return std::string(reinterpret_cast<char const*>(text.begin), text.Length());
+}
+
+// Returns the text's bytes as a string.
+inline std::string Str(AutoUString<UTF8> const& text) {
+    return Str(UStringRef<UTF8>(text));
+}
+
+// Returns the local multibyte text as a string; a null text gives the empty string.
+inline std::string Str(AutoNullTerminated<char> const& text) {
+    return text.pointer ? std::string(text.pointer) : std::string();
 }
 
 // Returns the bytes of the range as a string; also takes whatever converts to a range

@@ -9,6 +9,7 @@
 unsigned long const PortableThread::minimumStackSize = 0x80000;
 
 std::atomic<bool> ThreadKiller::m_kill{false};
+EventMaster ThreadKiller::m_Event;
 
 void MilliSecondSleep(unsigned long ms) {
     if (ms / 1000 != 0) sleep(static_cast<unsigned>(ms / 1000));

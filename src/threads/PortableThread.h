@@ -6,6 +6,8 @@
 
 #include <atomic>
 
+#include "threads/Event.h"
+
 class PortableThread {
   public:
     // Does not start anything. runToCompletion chooses the entry function: true lets the
@@ -50,11 +52,12 @@ class PortableThread {
     pthread_t m_threadId = 0;
 };
 
-// A process-wide stop switch that long-running thread loops read. Nothing in this program sets
-// it; a library user may, to make the pipe loops end. It is set on one thread and read on
-// others, hence atomic.
+// A process-wide stop switch that long-running thread loops read, and an event beside it. Nothing
+// in this program sets either, and nothing waits on the event; a library user may set them, to
+// make the pipe loops end. The switch is set on one thread and read on others, hence atomic.
 struct ThreadKiller {
     static std::atomic<bool> m_kill;
+    static EventMaster m_Event;
 };
 
 // Sleeps ms milliseconds: whole seconds with sleep(), the remainder with usleep(). The plain

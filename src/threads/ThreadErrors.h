@@ -13,4 +13,14 @@ class MutexError : public DebuggableException {
     int m_error;
 };
 
+// A failed pthread call of an event or a wait; carries the error number.
+class EventError : public DebuggableException {
+  public:
+    explicit EventError(int error) : m_error(error) {}
+    int m_error;
+};
+
+// Reports to a waiter that the event is already set; it never leaves the wait functions.
+class AlreadySignaled : public DebuggableException {};
+
 }  // namespace UnixPlatform

@@ -17,7 +17,7 @@ char const greeting[] =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ClientToUI>\n\t<ReadyForData></ReadyForData>\n"
     "</ClientToUI>";
 
-double Seconds() {
+double MonotonicSeconds() {
     timespec now;
     clock_gettime(CLOCK_MONOTONIC, &now);
     return now.tv_sec + now.tv_nsec / 1e9;
@@ -42,18 +42,19 @@ void ExpectCleanExit(AgentSimulator& agent) {
 
 TEST(ProcessLifecycle, GreetsFirstThenEndsCleanlyAfterThePauseWhenThePipeCloses) {
     AgentSimulator agent;
-    double started = Seconds();
+    double started = MonotonicSeconds();
     StartAndGreet(agent);
-    EXPECT_LT(Seconds() - started, 5.0) << "the greeting should leave within about a second";
+    EXPECT_LT(MonotonicSeconds() - started, 5.0)
+        << "the greeting should leave within about a second";
 
     // Nothing further arrives while the process waits for its first document.
     EXPECT_FALSE(agent.ReceiveFrame(1500).has_value());
     EXPECT_TRUE(agent.Running());
 
-    double closed = Seconds();
+    double closed = MonotonicSeconds();
     agent.CloseToProcess();
     ExpectCleanExit(agent);
-    EXPECT_GE(Seconds() - closed, 2.0) << "exit without the two-second pause";
+    EXPECT_GE(MonotonicSeconds() - closed, 2.0) << "exit without the two-second pause";
 }
 
 TEST(ProcessLifecycle, TheLargestFrameIsTakenAndOneByteMoreEndsTheSession) {

@@ -1,6 +1,7 @@
 #pragma once
 // A pointer shared by its copies through a SharingLink; the last holder deletes the object.
 
+#include <functional>
 #include <utility>
 
 #include "text/bytes/SharingLink.h"
@@ -37,3 +38,10 @@ class SharingPtr {
     T* m_pointer;
     SharingLink m_link;
 };
+
+// Orders by the address of the shared object, so that shared pointers can be kept in ordered
+// sets; the order has no other meaning.
+template <class T>
+bool operator<(SharingPtr<T> const& a, SharingPtr<T> const& b) {
+    return std::less<T*>()(a.get(), b.get());
+}
