@@ -168,6 +168,7 @@ TEST_F(XHelpersTest, ScrollSelectedItemIntoViewBringsTheHighlightedRowToTheTop) 
     ScrollSelectedItemIntoView(made.viewport, made.list);
     m_toolkit->Settle();
     EXPECT_EQ(ValueOf<Position>(made.list, XtNy), before);
+    XtDestroyWidget(made.shell);
 }
 
 TEST_F(XHelpersTest, ScrollSelectedItemIntoViewLeavesAShortListAlone) {
@@ -179,6 +180,7 @@ TEST_F(XHelpersTest, ScrollSelectedItemIntoViewLeavesAShortListAlone) {
     ScrollSelectedItemIntoView(made.viewport, made.list);
     m_toolkit->Settle();
     EXPECT_EQ(ValueOf<Position>(made.list, XtNy), 0);
+    XtDestroyWidget(made.shell);
 }
 
 namespace {
