@@ -31,21 +31,27 @@ void ThrowFromAction(Widget, XEvent*, String*, Cardinal*) {
 
 // Gives up after a while, so that a callback that never ran fails the test instead of
 // hanging it.
+bool gaveUp = false;
 void GiveUp(XtPointer, XtIntervalId*) {
+    gaveUp = true;
     throw std::logic_error("the callback never ran");
 }
 
 // Returns what reached a catch around the main loop.
 std::string RunMainLoop(XtAppContext context) {
-    XtAppAddTimeOut(context, 10000, GiveUp, nullptr);
+    gaveUp = false;
+    XtIntervalId giveUp = XtAppAddTimeOut(context, 10000, GiveUp, nullptr);
+    std::string reached = "the main loop returned";
     try {
         XtAppMainLoop(context);
     } catch (ThrownFromTheToolkit const&) {
-        return "caught";
+        reached = "caught";
     } catch (std::exception const& other) {
-        return other.what();
+        reached = other.what();
     }
-    return "the main loop returned";
+    // The toolkit does not free the timers still pending when its context goes.
+    if (!gaveUp) XtRemoveTimeOut(giveUp);
+    return reached;
 }
 
 }  // namespace
