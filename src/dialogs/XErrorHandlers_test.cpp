@@ -111,6 +111,16 @@ TEST(WarningMsgHandler, NoFontIsReportedTwiceThenTheProcessEndsWithZero) {
     }
 }
 
+// Once the agent has closed its end the pipe is killed and nothing takes the report from the
+// queue any more; the process must not wait minutes for it.
+TEST(WarningMsgHandler, NoFontWithThePipeKilledEndsWithoutWaitingForTheReport) {
+    AgentSimulator agent;
+    agent.Launch(XFAILUREPROBE_PATH, {"warning-noFont-after-eof"});
+    agent.CloseToProcess();
+    EXPECT_EQ(AllFrames(agent), std::vector<std::string>{});
+    ExpectExit(agent, 0);
+}
+
 class XFailureTest : public TemporaryDirectory {};
 
 // A server without any font: the first widget that needs one makes the toolkit warn "noFont".

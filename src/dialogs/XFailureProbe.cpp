@@ -6,6 +6,9 @@
 // Modes:
 //   warning-noFont-class   the toolkit warns "noFont" with a class
 //   warning-noFont         the toolkit warns "noFont" without a class
+//   warning-noFont-after-eof
+//                          the same, once the agent has closed descriptor 0 and the pipe is
+//                          killed, so that nothing drains the reports any more
 //   server-without-fonts   a label is made on a server that has no font
 //   protocol-error         a request names a window that does not exist; the error comes as
 //                          the answer to a round trip
@@ -21,6 +24,7 @@
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/Label.h>
+#include <unistd.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -95,6 +99,13 @@ int main(int argc, char** argv) {
     ++argv;
 
     Cardinal noParameters = 0;
+    if (mode == "warning-noFont-after-eof") {
+        for (int wait = 0; !clientPipe->Killed(); ++wait) {
+            if (wait == 1000) return setUpFailed;
+            usleep(10000);
+        }
+        mode = "warning-noFont";
+    }
     if (mode == "warning-noFont-class" || mode == "warning-noFont") {
         XtToolkitInitialize();
         app_context = XtCreateApplicationContext();
