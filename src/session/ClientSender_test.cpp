@@ -93,3 +93,36 @@ TEST(ClientSender, DecisionDocumentsAreExactToTheByte) {
                          "\t</RemindInterval>\n</UIToClient>",
               }));
 }
+
+// With the agent's end gone nothing drains the queue; the report must not hold the exit up for
+// minutes, whether the pipe died before the report or while it waited.
+TEST(ClientSender, ErrorReportStopsWaitingOnceThePipeIsKilled) {
+    struct Case {
+        char const* name;
+        int killAfterMs;  // negative: killed before the report
+    };
+    Case const cases[] = {{"killed before", -1}, {"killed while waiting", 1500}};
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.name);
+        TakeWriteQueue();
+        UIMessageQueue otherReadQ, otherWriteQ;
+        UnixPipe pipe(otherReadQ, otherWriteQ);
+        clientPipe = &pipe;
+        if (c.killAfterMs < 0) pipe.Kill();
+        std::thread killer([&] {
+            if (c.killAfterMs < 0) return;
+            std::this_thread::sleep_for(std::chrono::milliseconds(c.killAfterMs));
+            pipe.Kill();
+        });
+        ClientUIErrorMessage report;
+        report.m_code = ClientUIErrorMessage::NoFont;
+        report.m_debugString = "noFont";
+        time_t started = time(nullptr);
+        SendErrorToClient(report);
+        time_t waited = time(nullptr) - started;
+        killer.join();
+        clientPipe = nullptr;
+        EXPECT_LE(waited, 1 + c.killAfterMs / 1000 + 5) << "kept waiting on a killed pipe";
+        EXPECT_EQ(TakeWriteQueue().size(), 2u) << "the report is queued twice all the same";
+    }
+}

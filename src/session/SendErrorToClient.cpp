@@ -10,6 +10,8 @@ void SendErrorToClient(ClientUIErrorMessage& message) {
     WriteXMLToClient(message);
     for (int attempt = 0; attempt < 300; ++attempt) {
         if (writeQ.IsEmpty()) return;
+        // A killed pipe never drains the queue: the agent's end is gone, nobody will read.
+        if (clientPipe && clientPipe->Killed()) return;
         sleep(1);
     }
 }

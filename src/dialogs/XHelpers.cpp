@@ -1,0 +1,45 @@
+#include "dialogs/XHelpers.h"
+
+#include <X11/StringDefs.h>
+#include <X11/Xaw/List.h>
+#include <X11/Xaw/Scrollbar.h>
+
+void CenterDialogOnDisplay(Widget shell) {
+    Dimension width = 0;
+    Dimension height = 0;
+    XtVaGetValues(shell, XtNwidth, &width, XtNheight, &height, nullptr);
+    Screen* screen = DefaultScreenOfDisplay(XtDisplay(shell));
+    // In int, so that a shell larger than the screen gets a negative place; the division goes
+    // toward zero.
+    int x = (WidthOfScreen(screen) - static_cast<int>(width)) / 2;
+    int y = (HeightOfScreen(screen) - static_cast<int>(height)) / 2;
+    Arg arguments[2];
+    XtSetArg(arguments[0], XtNx, static_cast<Position>(x));
+    XtSetArg(arguments[1], XtNy, static_cast<Position>(y));
+    XtSetValues(shell, arguments, 2);
+}
+
+void OverrideScrollbarTranslations(Widget scrollbar) {
+    XtOverrideTranslations(
+        scrollbar,
+        XtParseTranslationTable(
+            "#override\n\t\t<Btn1Down>: StartScroll(Continuous) MoveThumb() NotifyThumb()\n"
+            "\t\t<Btn3Down>: StartScroll(Continuous) MoveThumb() NotifyThumb()\n"
+            "\t\t<Btn1Motion>: MoveThumb() NotifyThumb()\n"
+            "\t\t<Btn3Motion>: MoveThumb() NotifyThumb()\n"));
+}
+
+void ScrollSelectedItemIntoView(Widget viewport, Widget list) {
+    XawListReturnStruct* current = XawListShowCurrent(list);
+    if (!current) return;
+    int index = current->list_index;
+    XtFree(reinterpret_cast<char*>(current));
+    // Athena gives a record with no index rather than nothing when no row is highlighted.
+    if (index == XAW_LIST_NONE) return;
+    int numberStrings = 1;
+    XtVaGetValues(list, XtNnumberStrings, &numberStrings, nullptr);
+    Widget scrollbar = XtNameToWidget(viewport, "vertical");
+    if (!scrollbar) return;
+    float fraction = static_cast<float>(index) / static_cast<float>(numberStrings);
+    XtCallCallbacks(scrollbar, XtNjumpProc, &fraction);
+}

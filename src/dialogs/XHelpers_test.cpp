@@ -1,0 +1,232 @@
+// GoogleTest comes before the X headers, whose macros (None, Bool) would break it.
+#include <gtest/gtest.h>
+
+#include "dialogs/XHelpers.h"
+
+#include <X11/Shell.h>
+#include <X11/StringDefs.h>
+#include <X11/Xaw/List.h>
+#include <X11/Xaw/Scrollbar.h>
+#include <X11/Xaw/Viewport.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "testing/ToolkitDisplay.h"
+#include "testing/XvfbServer.h"
+
+namespace {
+
+// Each test gets its own 1024x768 server and a toolkit display on it.
+class XHelpersTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        m_server = std::make_unique<XvfbServer>();
+        m_toolkit = std::make_unique<ToolkitDisplay>(m_server->DisplayName());
+    }
+    void TearDown() override {
+        m_toolkit.reset();
+        m_server.reset();
+    }
+
+    Display* Connection() const { return m_toolkit->Connection(); }
+
+    Widget MakeShell(Dimension width, Dimension height) {
+        return XtVaAppCreateShell(nullptr, "XZOLClientUI", topLevelShellWidgetClass, Connection(),
+                                  XtNwidth, width, XtNheight, height, nullptr);
+    }
+
+    // Sends a pointer event to the widget's window through the server, as a real press,
+    // motion or release would arrive there.
+    void SendPointer(Widget widget, int type, unsigned button, int x, int y, unsigned state) {
+        XEvent event;
+        std::memset(&event, 0, sizeof event);
+        event.xbutton.type = type;
+        event.xbutton.display = Connection();
+        event.xbutton.window = XtWindow(widget);
+        event.xbutton.root = DefaultRootWindow(Connection());
+        event.xbutton.x = x;
+        event.xbutton.y = y;
+        event.xbutton.state = state;
+        event.xbutton.button = button;
+        event.xbutton.same_screen = True;
+        if (type == MotionNotify) {
+            event.xmotion.is_hint = NotifyNormal;
+            event.xmotion.same_screen = True;
+        }
+        XSendEvent(Connection(), XtWindow(widget), False, NoEventMask, &event);
+        m_toolkit->Settle();
+    }
+
+    std::unique_ptr<XvfbServer> m_server;
+    std::unique_ptr<ToolkitDisplay> m_toolkit;
+};
+
+template <class T>
+T ValueOf(Widget widget, char const* resource) {
+    T value{};
+    XtVaGetValues(widget, resource, &value, nullptr);
+    return value;
+}
+
+// The list items outlive the widgets; the list does not copy them.
+std::vector<std::string> const rowTexts = [] {
+    std::vector<std::string> texts;
+    for (int i = 0; i < 100; ++i) texts.push_back("row " + std::to_string(i));
+    return texts;
+}();
+
+}  // namespace
+
+// Half the difference in each direction, divided toward zero, also when the shell is larger
+// than the screen.
+TEST_F(XHelpersTest, CenterDialogOnDisplayPlacesTheShellInTheMiddle) {
+    struct Case {
+        Dimension width, height;
+        Position x, y;
+    };
+    Case const cases[] = {
+        {200, 100, 412, 334},
+        {201, 101, 411, 333},
+        {1101, 801, -38, -16},
+    };
+    for (Case const& c : cases) {
+        SCOPED_TRACE(std::to_string(c.width) + "x" + std::to_string(c.height));
+        Widget shell = MakeShell(c.width, c.height);
+        XtRealizeWidget(shell);
+        CenterDialogOnDisplay(shell);
+        m_toolkit->Settle();
+        EXPECT_EQ(ValueOf<Position>(shell, XtNx), c.x);
+        EXPECT_EQ(ValueOf<Position>(shell, XtNy), c.y);
+        // Without a window manager the server places the window exactly there.
+        XWindowAttributes attributes;
+        XGetWindowAttributes(Connection(), XtWindow(shell), &attributes);
+        EXPECT_EQ(attributes.x, c.x);
+        EXPECT_EQ(attributes.y, c.y);
+        XtDestroyWidget(shell);
+    }
+}
+
+namespace {
+
+// A viewport 200 pixels high over a list of the given rows, one column.
+struct ListInViewport {
+    Widget shell, viewport, list;
+};
+
+ListInViewport MakeList(Display* connection, int rows) {
+    ListInViewport made;
+    made.shell =
+        XtVaAppCreateShell(nullptr, "XZOLClientUI", topLevelShellWidgetClass, connection, nullptr);
+    made.viewport =
+        XtVaCreateManagedWidget("viewport", viewportWidgetClass, made.shell, XtNallowVert, True,
+                                XtNwidth, 200, XtNheight, 200, nullptr);
+    static std::vector<char*> items;
+    items.clear();
+    for (int i = 0; i < rows; ++i) items.push_back(const_cast<char*>(rowTexts[i].c_str()));
+    made.list = XtVaCreateManagedWidget("list", listWidgetClass, made.viewport, XtNlist,
+                                        items.data(), XtNnumberStrings, rows, XtNdefaultColumns, 1,
+                                        XtNforceColumns, True, nullptr);
+    XtRealizeWidget(made.shell);
+    return made;
+}
+
+}  // namespace
+
+TEST_F(XHelpersTest, ScrollSelectedItemIntoViewBringsTheHighlightedRowToTheTop) {
+    ListInViewport made = MakeList(Connection(), 100);
+    m_toolkit->Settle();
+    Widget clip = XtNameToWidget(made.viewport, "clip");
+    ASSERT_NE(clip, nullptr);
+    ASSERT_NE(XtNameToWidget(made.viewport, "vertical"), nullptr);
+    int listHeight = ValueOf<Dimension>(made.list, XtNheight);
+    int viewHeight = ValueOf<Dimension>(clip, XtNheight);
+    ASSERT_GT(listHeight, 4 * viewHeight) << "the list must be long for this test";
+    // The list is its rows between two margins.
+    int margin = ValueOf<Dimension>(made.list, XtNinternalHeight);
+    int rowHeight = (listHeight - 2 * margin) / 100;
+
+    // A row in the middle comes to the top of the view, give or take the margin.
+    XawListHighlight(made.list, 70);
+    ScrollSelectedItemIntoView(made.viewport, made.list);
+    m_toolkit->Settle();
+    int rowTop = ValueOf<Position>(made.list, XtNy) + margin + 70 * rowHeight;
+    EXPECT_GE(rowTop, -margin - 1) << "row height " << rowHeight;
+    EXPECT_LE(rowTop, margin + 1) << "row height " << rowHeight;
+
+    // The last row: the list goes as far as it can, its end at the bottom of the view.
+    XawListHighlight(made.list, 99);
+    ScrollSelectedItemIntoView(made.viewport, made.list);
+    m_toolkit->Settle();
+    EXPECT_EQ(ValueOf<Position>(made.list, XtNy), viewHeight - listHeight);
+
+    // With nothing highlighted the view stays where it is.
+    Position before = ValueOf<Position>(made.list, XtNy);
+    XawListUnhighlight(made.list);
+    ScrollSelectedItemIntoView(made.viewport, made.list);
+    m_toolkit->Settle();
+    EXPECT_EQ(ValueOf<Position>(made.list, XtNy), before);
+    XtDestroyWidget(made.shell);
+}
+
+TEST_F(XHelpersTest, ScrollSelectedItemIntoViewLeavesAShortListAlone) {
+    ListInViewport made = MakeList(Connection(), 3);
+    m_toolkit->Settle();
+    ASSERT_EQ(XtNameToWidget(made.viewport, "vertical"), nullptr)
+        << "a list that fits needs no scrollbar";
+    XawListHighlight(made.list, 2);
+    ScrollSelectedItemIntoView(made.viewport, made.list);
+    m_toolkit->Settle();
+    EXPECT_EQ(ValueOf<Position>(made.list, XtNy), 0);
+    XtDestroyWidget(made.shell);
+}
+
+namespace {
+
+int jumps = 0;
+void CountJump(Widget, XtPointer, XtPointer) {
+    ++jumps;
+}
+
+}  // namespace
+
+// Left and right button drag the thumb: a press puts it under the pointer, a motion with the
+// button held moves it along. Athena's own bindings would only scroll by pages here, leaving the
+// thumb where the application puts it.
+TEST_F(XHelpersTest, OverrideScrollbarTranslationsLetsBothButtonsDragTheThumb) {
+    struct Case {
+        char const* what;
+        unsigned button;
+        unsigned held;
+    };
+    Case const cases[] = {{"left", Button1, Button1Mask}, {"right", Button3, Button3Mask}};
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.what);
+        Widget shell = MakeShell(20, 200);
+        Widget scrollbar =
+            XtVaCreateManagedWidget("vertical", scrollbarWidgetClass, shell, XtNorientation,
+                                    XtorientVertical, XtNlength, 200, XtNthickness, 20, nullptr);
+        XtAddCallback(scrollbar, XtNjumpProc, CountJump, nullptr);
+        XawScrollbarSetThumb(scrollbar, 0.0, 0.1);
+        OverrideScrollbarTranslations(scrollbar);
+        XtRealizeWidget(shell);
+        m_toolkit->Settle();
+        jumps = 0;
+
+        SendPointer(scrollbar, ButtonPress, c.button, 10, 150, 0);
+        float afterPress = ValueOf<float>(scrollbar, XtNtopOfThumb);
+        EXPECT_GT(afterPress, 0.5f);
+        EXPECT_LT(afterPress, 0.9f);
+
+        SendPointer(scrollbar, MotionNotify, 0, 10, 50, c.held);
+        float afterMotion = ValueOf<float>(scrollbar, XtNtopOfThumb);
+        EXPECT_LT(afterMotion, 0.4f);
+        EXPECT_GE(afterMotion, 0.0f);
+
+        SendPointer(scrollbar, ButtonRelease, c.button, 10, 50, c.held);
+        EXPECT_GE(jumps, 2) << "each move tells the application where the thumb is";
+        XtDestroyWidget(shell);
+    }
+}
