@@ -4,6 +4,8 @@
 #include <X11/Xaw/List.h>
 #include <X11/Xaw/Scrollbar.h>
 
+#include "localized/UFormat.h"
+
 void CenterDialogOnDisplay(Widget shell) {
     Dimension width = 0;
     Dimension height = 0;
@@ -42,4 +44,16 @@ void ScrollSelectedItemIntoView(Widget viewport, Widget list) {
     if (!scrollbar) return;
     float fraction = static_cast<float>(index) / static_cast<float>(numberStrings);
     XtCallCallbacks(scrollbar, XtNjumpProc, &fraction);
+}
+
+std::unique_ptr<std::string> ControlLiteral(char const* literal) {
+    return ControlLiteral(MakeLocalString(UFormat(literal)));
+}
+
+std::unique_ptr<std::string> ControlLiteral(AutoNullTerminated<char> const& localText) {
+    return std::make_unique<std::string>(localText.pointer ? localText.pointer : "");
+}
+
+std::unique_ptr<std::string> FunkyControlLiteral(char const* literal) {
+    return std::make_unique<std::string>(literal ? literal : "");
 }

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "testing/ScopedSettings.h"
 #include "testing/ToolkitDisplay.h"
 #include "testing/XvfbServer.h"
 
@@ -229,4 +230,20 @@ TEST_F(XHelpersTest, OverrideScrollbarTranslationsLetsBothButtonsDragTheThumb) {
         EXPECT_GE(jumps, 2) << "each move tells the application where the thumb is";
         XtDestroyWidget(shell);
     }
+}
+
+// Widgets get the locale's encoding: "é" is one byte in a Latin-1 locale and two in UTF-8, and a
+// text the locale cannot express fails instead of reaching a widget half converted.
+TEST(ControlLiteral, ConvertsToTheLocaleEncoding) {
+    {
+        ScopedCTypeLocale const latin1("de_DE.ISO-8859-1");
+        ASSERT_TRUE(latin1.Ok());
+        EXPECT_EQ(*ControlLiteral("caf\xC3\xA9"), "caf\xE9");
+        EXPECT_ANY_THROW(ControlLiteral("\xE2\x82\xAC"));  // the euro sign is not in Latin-1
+        EXPECT_EQ(*FunkyControlLiteral("caf\xC3\xA9"), "caf\xC3\xA9");
+    }
+    ScopedCTypeLocale const utf8("en_US.UTF-8");
+    ASSERT_TRUE(utf8.Ok());
+    EXPECT_EQ(*ControlLiteral("caf\xC3\xA9"), "caf\xC3\xA9");
+    EXPECT_EQ(*ControlLiteral(AutoNullTerminated<char>()), "");
 }
