@@ -1,19 +1,7 @@
-// The dialogs of a build without a display: every call shows nothing, and InitXApp stands in
-// for the X loop, driving the session once a second as the X loop's tick will. The program
-// links this until the X shell and the dialogs exist.
-
-#include <unistd.h>
+// The dialog calls whose dialogs do not exist yet: each shows nothing. A dialog's own module
+// replaces its functions here.
 
 #include "session/DialogCalls.h"
-#include "session/SessionCalls.h"
-
-void InitXApp(int, char**) {
-    for (;;) {
-        sleep(1);
-        if (clientPipe && clientPipe->Killed()) ExitCleanup(0, "CLOSED");
-        ProcessMessagesFromClient();
-    }
-}
 
 void ShowActionRequestDialog(bool, TimeInterval const&, bool) {}
 void UpdateActionRequestDialog() {}
