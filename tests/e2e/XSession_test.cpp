@@ -1,0 +1,179 @@
+// The built program with a real X server: how the running session ends when the display is
+// missing, goes away or has no fonts, how other X clients reach it through its hidden window,
+// and that an exception inside a tick ends it normally.
+
+// GoogleTest comes before the X headers, whose macros (None, Bool) would break it.
+#include <gtest/gtest.h>
+
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "AgentSimulator.h"
+#include "testing/Eventually.h"
+#include "testing/TemporaryDirectory.h"
+#include "testing/XvfbServer.h"
+
+namespace {
+
+std::string const hiddenWindowName = "ZOLClientUIHiddenWindow";
+
+// Returns the top-level window whose class hint names it hiddenWindowName, or 0.
+Window FindHiddenWindow(Display* connection) {
+    Window root, parent, *children = nullptr;
+    unsigned count = 0;
+    Window found = 0;
+    if (!XQueryTree(connection, DefaultRootWindow(connection), &root, &parent, &children, &count))
+        return 0;
+    for (unsigned i = 0; i < count && !found; ++i) {
+        XClassHint hint;
+        if (!XGetClassHint(connection, children[i], &hint)) continue;
+        if (hint.res_name && hiddenWindowName == hint.res_name) found = children[i];
+        XFree(hint.res_name);
+        XFree(hint.res_class);
+    }
+    if (children) XFree(children);
+    return found;
+}
+
+// Sends the window a ClientMessage whose data starts with text, as a client asking for the
+// action dialog would.
+void SendClientMessageText(Display* connection, Window window, char const* text) {
+    XEvent event;
+    std::memset(&event, 0, sizeof event);
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = XInternAtom(connection, "ZOL_TEST_REQUEST", False);
+    event.xclient.format = 8;
+    std::strncpy(event.xclient.data.b, text, sizeof event.xclient.data.b);
+    XSendEvent(connection, window, False, NoEventMask, &event);
+    XFlush(connection);
+}
+
+class XSessionTest : public TemporaryDirectory {
+  protected:
+    void TearDown() override {
+        unsetenv("ZOLCLIENTUI_TRACE");
+        unsetenv("ZOL_STANDIN_DIALOGS");
+        TemporaryDirectory::TearDown();
+    }
+
+    // Starts the program on the display with its standard error going to a file of the test
+    // directory, takes the greeting and sends the first document.
+    void StartSession(AgentSimulator& agent, std::string const& displayName,
+                      std::string const& program = ZOLCLIENTUI_PATH) {
+        setenv("DISPLAY", displayName.c_str(), 1);
+        int const saved = dup(2);
+        int const log = open(Path("stderr").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+        dup2(log, 2);
+        agent.Launch(program);
+        dup2(saved, 2);
+        close(log);
+        close(saved);
+        ASSERT_TRUE(agent.ReceiveFrame(5000).has_value()) << "no greeting";
+        agent.SendFrame("<ClientToUI><InitializationInfo><BaseDirectory>" + m_root +
+                        "/session</BaseDirectory><InitialUISettings><RemindInterval>PT10M"
+                        "</RemindInterval></InitialUISettings></InitializationInfo></ClientToUI>");
+    }
+
+    std::string Path(std::string const& name) const { return m_root + "/" + name; }
+
+    std::string StandardError() const {
+        std::ifstream file(Path("stderr"));
+        std::stringstream text;
+        text << file.rdbuf();
+        return text.str();
+    }
+
+    static void ExpectExit(AgentSimulator& agent, int status) {
+        auto end = agent.WaitForExit(20000);
+        ASSERT_TRUE(end.has_value()) << "the process did not end";
+        EXPECT_TRUE(end->exited) << "ended by signal " << end->status;
+        EXPECT_EQ(end->status, status);
+    }
+};
+
+}  // namespace
+
+TEST_F(XSessionTest, ADisplayThatCannotBeOpenedEndsWith255) {
+    // A display number with no server behind it: the socket does not exist.
+    AgentSimulator agent;
+    StartSession(agent, ":4093");
+    ExpectExit(agent, 255);
+}
+
+TEST_F(XSessionTest, TheServerGoingAwayEndsWithZero) {
+    XvfbServer server;
+    AgentSimulator agent;
+    StartSession(agent, server.DisplayName());
+    Display* connection = XOpenDisplay(server.DisplayName().c_str());
+    ASSERT_NE(connection, nullptr);
+    EXPECT_TRUE(Eventually([&] { return FindHiddenWindow(connection) != 0; }))
+        << "the hidden window never appeared";
+    XCloseDisplay(connection);
+    server.Kill();
+    ExpectExit(agent, 0);
+}
+
+// The start-up leaves a server without fonts as it is; the first widget that needs a font
+// then meets the toolkit's "noFont" warning, which is reported and ends the process.
+TEST_F(XSessionTest, AServerWithoutFontsIsReportedTwiceThenEndsWithZero) {
+    std::ofstream(Path("fonts.dir")) << "0\n";
+    XvfbServer server(m_root);
+    AgentSimulator agent;
+    setenv("ZOL_STANDIN_DIALOGS", "label-on-show", 1);
+    StartSession(agent, server.DisplayName(), STANDIN_PATH);
+    agent.SendFrame("<ClientToUI><ActionRequest><ID>1</ID></ActionRequest></ClientToUI>");
+    std::string const report =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ClientToUI>\n\t<ClientUIErrorMessage>\n"
+        "\t\t<DebugString>noFont (XtToolkitError)</DebugString>\n\t\t<ErrorCode>1</ErrorCode>\n"
+        "\t</ClientUIErrorMessage>\n</ClientToUI>";
+    EXPECT_EQ(agent.ReceiveFrame(15000), report);
+    EXPECT_EQ(agent.ReceiveFrame(5000), report);
+    auto const reported = std::chrono::steady_clock::now();
+    ExpectExit(agent, 0);
+    EXPECT_GE(std::chrono::steady_clock::now() - reported, std::chrono::milliseconds(1500))
+        << "ended without the pause that lets the reports leave";
+}
+
+TEST_F(XSessionTest, AnOpenMessageToTheHiddenWindowAsksForTheActionDialogOnTheNextTick) {
+    setenv("ZOLCLIENTUI_TRACE", "1", 1);
+    XvfbServer server;
+    AgentSimulator agent;
+    StartSession(agent, server.DisplayName());
+    Display* connection = XOpenDisplay(server.DisplayName().c_str());
+    ASSERT_NE(connection, nullptr);
+    Window hidden = 0;
+    EXPECT_TRUE(Eventually([&] { return (hidden = FindHiddenWindow(connection)) != 0; }));
+    ASSERT_NE(hidden, 0u);
+
+    // Other texts, and "open" past the first four bytes, are ignored.
+    SendClientMessageText(connection, hidden, "close");
+    SendClientMessageText(connection, hidden, "xopen");
+    SendClientMessageText(connection, hidden, "open");
+    char const handled[] = "handled command ShowActions";
+    EXPECT_TRUE(Eventually([&] { return StandardError().find(handled) != std::string::npos; }))
+        << StandardError();
+    std::string const trace = StandardError();
+    EXPECT_EQ(trace.find(handled), trace.rfind(handled)) << "one command per open message";
+    EXPECT_EQ(trace.find("handled command "), trace.find(handled)) << trace;
+    XCloseDisplay(connection);
+    agent.CloseToProcess();
+    ExpectExit(agent, 0);
+}
+
+TEST_F(XSessionTest, AnExceptionInsideATickEndsTheProcessNormally) {
+    XvfbServer server;
+    AgentSimulator agent;
+    setenv("ZOL_STANDIN_DIALOGS", "throw-on-tick", 1);
+    StartSession(agent, server.DisplayName(), STANDIN_PATH);
+    ExpectExit(agent, 0);
+}
