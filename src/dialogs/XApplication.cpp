@@ -40,8 +40,9 @@ void RunXApp(int& argc, char** argv) {
     // show the built-in English texts.
     if (international && PlainLocale()) {
         international = false;
-        m_formatFiles.clear();
+        // The scopes first: each refers to the entries of its file.
         m_formatOverrides.clear();
+        m_formatFiles.clear();
     }
     ConfigValidDefaultFontSet();
     XtAppSetErrorHandler(app_context, Xt_ErrorHandler);
