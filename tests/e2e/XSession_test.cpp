@@ -22,6 +22,11 @@
 #include "testing/TemporaryDirectory.h"
 #include "testing/XvfbServer.h"
 
+// The sanitizer settings that every test program using the X libraries carries
+// (src/testing/XLibraryLeaks.cpp); the program is handed them through its environment.
+extern "C" char const* __asan_default_options();
+extern "C" char const* __lsan_default_suppressions();
+
 namespace {
 
 std::string const hiddenWindowName = "ZOLClientUIHiddenWindow";
@@ -63,6 +68,8 @@ class XSessionTest : public TemporaryDirectory {
     void TearDown() override {
         unsetenv("ZOLCLIENTUI_TRACE");
         unsetenv("ZOL_STANDIN_DIALOGS");
+        unsetenv("ASAN_OPTIONS");
+        unsetenv("LSAN_OPTIONS");
         TemporaryDirectory::TearDown();
     }
 
@@ -71,6 +78,9 @@ class XSessionTest : public TemporaryDirectory {
     void StartSession(AgentSimulator& agent, std::string const& displayName,
                       std::string const& program = ZOLCLIENTUI_PATH) {
         setenv("DISPLAY", displayName.c_str(), 1);
+        std::ofstream(Path("leaks.supp")) << __lsan_default_suppressions();
+        setenv("ASAN_OPTIONS", __asan_default_options(), 1);
+        setenv("LSAN_OPTIONS", ("suppressions=" + Path("leaks.supp")).c_str(), 1);
         int const saved = dup(2);
         int const log = open(Path("stderr").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
         dup2(log, 2);
