@@ -47,8 +47,8 @@ void RunXApp(int& argc, char** argv) {
     ConfigValidDefaultFontSet();
     XtAppSetErrorHandler(app_context, Xt_ErrorHandler);
     // Registered for resource files to bind; the program itself binds neither.
-    XtActionsRec actionTable[] = {{const_cast<char*>("SystemMenuClose"), SystemMenuClose},
-                                  {const_cast<char*>("Nothing"), nullptr}};
+    static XtActionsRec actionTable[] = {{const_cast<char*>("SystemMenuClose"), SystemMenuClose},
+                                         {const_cast<char*>("Nothing"), nullptr}};
     XtAppAddActions(app_context, actionTable, XtNumber(actionTable));
     XtAppAddTimeOut(app_context, tickMilliseconds, TimerTick, nullptr);
     XtAppMainLoop(app_context);
