@@ -1,10 +1,15 @@
 #include "dialogs/XHelpers.h"
 
+#include <X11/IntrinsicP.h>
 #include <X11/StringDefs.h>
 #include <X11/Xaw/List.h>
 #include <X11/Xaw/Scrollbar.h>
+#include <X11/Xaw/TextP.h>
+
+#include <cstring>
 
 #include "localized/UFormat.h"
+#include "session/SessionCalls.h"
 
 void CenterDialogOnDisplay(Widget shell) {
     Dimension width = 0;
@@ -44,6 +49,35 @@ void ScrollSelectedItemIntoView(Widget viewport, Widget list) {
     if (!scrollbar) return;
     float fraction = static_cast<float>(index) / static_cast<float>(numberStrings);
     XtCallCallbacks(scrollbar, XtNjumpProc, &fraction);
+}
+
+void DeclareDeleteWindow(Widget shell) {
+    Display* connection = XtDisplay(shell);
+    Atom deleteWindow = XInternAtom(connection, "WM_DELETE_WINDOW", False);
+    XSetWMProtocols(connection, XtWindow(shell), &deleteWindow, 1);
+}
+
+Widget TextVerticalScrollbar(Widget text) {
+    if (!XtIsSubclass(text, textWidgetClass)) return nullptr;
+    return reinterpret_cast<TextWidget>(text)->text.vbar;
+}
+
+void OverrideTextScrollbarTranslations(Widget text) {
+    if (Widget scrollbar = TextVerticalScrollbar(text)) OverrideScrollbarTranslations(scrollbar);
+}
+
+char* TextWidgetString(std::string const& text) {
+    char* copy = XtMalloc(static_cast<Cardinal>(text.size() + 1));
+    std::memcpy(copy, text.c_str(), text.size() + 1);
+    return copy;
+}
+
+void ReportDialogBuildFailure(char const* dialogName) {
+    ClientUIErrorMessage report;
+    report.m_code = ClientUIErrorMessage::DialogBuildFailed;
+    report.m_debugString = dialogName;
+    SendErrorToClient(report);
+    ExitCleanup(0, "TranscodeError");
 }
 
 std::unique_ptr<std::string> ControlLiteral(char const* literal) {

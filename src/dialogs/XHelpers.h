@@ -22,6 +22,26 @@ void OverrideScrollbarTranslations(Widget scrollbar);
 // nothing when no row is highlighted or the viewport has no vertical scrollbar.
 void ScrollSelectedItemIntoView(Widget viewport, Widget list);
 
+// Lists WM_DELETE_WINDOW among the window-manager protocols of the realized shell, so that a
+// close request arrives as a message instead of killing the connection. Only a resource file
+// that binds SystemMenuClose makes that message do anything.
+void DeclareDeleteWindow(Widget shell);
+
+// Returns the vertical scrollbar of a text widget, or null when it has none. The text widget
+// is no composite, so its scrollbars cannot be found by name.
+Widget TextVerticalScrollbar(Widget text);
+// Gives the vertical scrollbar of a text widget both-button dragging, if the widget has one.
+void OverrideTextScrollbarTranslations(Widget text);
+
+// Returns an XtMalloc copy of the text, for the string resource of a text widget. Nobody frees
+// these copies: the widget does not, and the dialogs deliberately leave them.
+char* TextWidgetString(std::string const& text);
+
+// Tells the agent that the named dialog could not be built (ClientUIErrorMessage with code 2
+// and the name), waits for the report to leave, and ends the process with status 0. Each dialog
+// calls it from the catch around its build; it never returns.
+[[noreturn]] void ReportDialogBuildFailure(char const* dialogName);
+
 // Everything a widget shows is in the locale's multibyte encoding. ControlLiteral renders the
 // literal through the translation overrides and converts it to the locale's encoding; each
 // dialog keeps the result in a slot of its own for as long as the widget shows it. Throws what
