@@ -1,0 +1,107 @@
+#include "dialogs/ActionDetailsDialog.h"
+
+#include <X11/Shell.h>
+#include <X11/StringDefs.h>
+#include <X11/Xaw/AsciiText.h>
+#include <X11/Xaw/Command.h>
+#include <X11/Xaw/Form.h>
+
+#include <memory>
+#include <string>
+
+#include "dialogs/XHelpers.h"
+#include "session/DialogCalls.h"
+#include "session/SessionCalls.h"
+#include "text/unicode/MakeLocalString.h"
+
+namespace {
+
+// The texts the widgets show, kept for the life of the process. The preview keeps its last
+// text when the action it came from is gone.
+std::unique_ptr<std::string> titleSlot;
+std::unique_ptr<std::string> previewSlot = std::make_unique<std::string>();
+std::unique_ptr<std::string> okLabelSlot;
+
+Widget detailsShell = nullptr;
+Widget detailsText = nullptr;
+
+void OkCallback(Widget, XtPointer, XtPointer) {
+    HideActionDetailsDialog();
+    QueueCommand(UICommandDetailsClosed, 0, 0, 0);
+}
+
+void BuildActionDetailsDialog(unsigned long long actionID) {
+    for (ActionRequest const& action : actions) {
+        if (action.m_id != actionID) continue;
+        // The button that opens this dialog is sensitive only for an action with a preview;
+        // one without shows an empty box.
+        previewSlot = action.m_preview ? ControlLiteral(MakeLocalString(*action.m_preview))
+                                       : std::make_unique<std::string>();
+        break;
+    }
+    titleSlot = ControlLiteral("Action Script Preview");
+    okLabelSlot = ControlLiteral("OK");
+
+    Boolean const multibyte = international ? True : False;
+    Arg arguments[10];
+    Cardinal count = 0;
+    XtSetArg(arguments[count], XtNtitle, titleSlot->c_str()), ++count;
+    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    detailsShell =
+        XtAppCreateShell(nullptr, nullptr, applicationShellWidgetClass, display, arguments, count);
+
+    Widget form = XtCreateManagedWidget("form", formWidgetClass, detailsShell, nullptr, 0);
+
+    count = 0;
+    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    XtSetArg(arguments[count], XtNtype, XawAsciiString), ++count;
+    XtSetArg(arguments[count], XtNwidth, 500), ++count;
+    XtSetArg(arguments[count], XtNheight, 100), ++count;
+    XtSetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
+    XtSetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
+    XtSetArg(arguments[count], XtNdisplayCaret, False), ++count;
+    XtSetArg(arguments[count], XtNstring, TextWidgetString(*previewSlot)), ++count;
+    XtSetArg(arguments[count], XtNsensitive, False), ++count;
+    detailsText =
+        XtCreateManagedWidget("actiondetails", asciiTextWidgetClass, form, arguments, count);
+
+    count = 0;
+    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    XtSetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
+    XtSetArg(arguments[count], XtNfromVert, detailsText), ++count;
+    Widget ok = XtCreateManagedWidget("ok", commandWidgetClass, form, arguments, count);
+    XtAddCallback(ok, XtNcallback, OkCallback, nullptr);
+
+    // The button ends where the box ends.
+    Dimension textWidth = 0, textBorder = 0, okWidth = 0;
+    XtVaGetValues(detailsText, XtNwidth, &textWidth, XtNborderWidth, &textBorder, nullptr);
+    XtVaGetValues(ok, XtNwidth, &okWidth, nullptr);
+    XtVaSetValues(ok, XtNhorizDistance, static_cast<XtArgVal>(textWidth + textBorder - okWidth),
+                  nullptr);
+
+    XtRealizeWidget(detailsShell);
+    CenterDialogOnDisplay(detailsShell);
+    DeclareDeleteWindow(detailsShell);
+    OverrideTextScrollbarTranslations(detailsText);
+}
+
+}  // namespace
+
+void ShowActionDetailsDialog(unsigned long long actionID) {
+    if (!display || detailsShell) return;
+    try {
+        BuildActionDetailsDialog(actionID);
+    } catch (...) {
+        ReportDialogBuildFailure("ActionDetailsDialog");
+    }
+    UpdateActionDetailsDialog();
+}
+
+void HideActionDetailsDialog() {
+    if (!detailsShell) return;
+    XtDestroyWidget(detailsShell);
+    detailsShell = nullptr;
+    detailsText = nullptr;
+}
+
+void UpdateActionDetailsDialog() {}
