@@ -10,7 +10,6 @@ bool IsActionRequestDialogShown() {
 }
 void DisableActionRequestDialog() {}
 void EnableActionRequestDialog() {}
-void ShowConfirmationRequestDialog(unsigned long long) {}
 void ShowMessageDialog(MessageRequest const&) {}
 void RemoveMessageDialog(unsigned long long) {}
 void RemoveTimedoutMessageDialogs() {}
