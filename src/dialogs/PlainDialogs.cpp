@@ -10,8 +10,5 @@ bool IsActionRequestDialogShown() {
 }
 void DisableActionRequestDialog() {}
 void EnableActionRequestDialog() {}
-void ShowMessageDialog(MessageRequest const&) {}
-void RemoveMessageDialog(unsigned long long) {}
-void RemoveTimedoutMessageDialogs() {}
 void ShowQuietModeDialog(Instant const&, Instant const&) {}
 void RemoveQuietModeDialog() {}
