@@ -10,5 +10,3 @@ bool IsActionRequestDialogShown() {
 }
 void DisableActionRequestDialog() {}
 void EnableActionRequestDialog() {}
-void ShowQuietModeDialog(Instant const&, Instant const&) {}
-void RemoveQuietModeDialog() {}
