@@ -74,18 +74,6 @@ TEST_F(ActionDetailsDialogTest, TreeHasTheNamedWidgetsWithTheirResources) {
     EXPECT_TRUE(TopLevelShells().empty());
 }
 
-TEST_F(ActionDetailsDialogTest, ALongPreviewScrollsInABoxOfFixedSize) {
-    std::string preview;
-    for (int line = 0; line < 200; ++line) preview += "line " + std::to_string(line) + "\n";
-    AddActionWithPreview(1, preview);
-    ShowActionDetailsDialog(1);
-    Widget text = XtNameToWidget(OnlyShell(), "form.actiondetails");
-    ASSERT_NE(text, nullptr);
-    EXPECT_EQ(WidgetText(text, XtNstring), preview);
-    EXPECT_EQ(WidgetResource<Dimension>(text, XtNwidth), 500);
-    EXPECT_EQ(WidgetResource<Dimension>(text, XtNheight), 100);
-}
-
 TEST_F(ActionDetailsDialogTest, ASecondShowWhileUpChangesNothing) {
     AddActionWithPreview(1, "first preview");
     AddActionWithPreview(2, "second preview");
