@@ -102,7 +102,10 @@ std::unique_ptr<char[]> CopyOf(char const* text) {
     return copy;
 }
 
+// Disabling and enabling are meant for a dialog that is up; without a tree only the flag
+// changes.
 void SetSensitive(Widget widget, bool sensitive) {
+    if (!widget) return;
     Arg argument;
     XtSetArg(argument, XtNsensitive, static_cast<Boolean>(sensitive));
     XtSetValues(widget, &argument, 1);

@@ -12,6 +12,8 @@
 #include <X11/Xaw/List.h>
 #include <X11/Xaw/Viewport.h>
 
+#include <unistd.h>
+
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -20,6 +22,7 @@
 #include <vector>
 
 #include "AgentSimulator.h"
+#include "dialogs/DialogErrors.h"
 #include "localized/ActionSummary.h"
 #include "localized/DeadlineText.h"
 #include "localized/FormatOverrides.h"
@@ -163,6 +166,7 @@ class ActionRequestDialogTest : public ::testing::Test {
         display = toolkit->Connection();
     }
     static void TearDownTestSuite() {
+        otherDisplays.clear();
         delete toolkit;
         toolkit = nullptr;
         app_context = nullptr;
@@ -221,9 +225,27 @@ class ActionRequestDialogTest : public ::testing::Test {
         return text ? text : "(null)";
     }
 
+    // Opens one more display on the suite's server and puts it in the session's globals until
+    // the end of the test. The toolkit converts a widget's font set once per display, in the
+    // locale of the moment, so a test that changes the locale needs a display opened after the
+    // change, as the program opens its display after choosing the locale. The displays stay
+    // open until the suite ends.
+    void UseNewDisplay() {
+        otherDisplays.push_back(std::make_unique<ToolkitDisplay>(server->DisplayName()));
+        app_context = otherDisplays.back()->Context();
+        display = otherDisplays.back()->Connection();
+    }
+    void CheckInternationalWidgets();
+    void UseSuiteDisplay() {
+        app_context = toolkit->Context();
+        display = toolkit->Connection();
+    }
+
     static XvfbServer* server;
     static ToolkitDisplay* toolkit;
+    static std::vector<std::unique_ptr<ToolkitDisplay>> otherDisplays;
 };
+std::vector<std::unique_ptr<ToolkitDisplay>> ActionRequestDialogTest::otherDisplays;
 
 XvfbServer* ActionRequestDialogTest::server = nullptr;
 ToolkitDisplay* ActionRequestDialogTest::toolkit = nullptr;
@@ -794,4 +816,84 @@ TEST(ActionRequestDialogBuild, ATitleTheLocaleCannotExpressIsReportedTwiceThenTh
     ASSERT_TRUE(end.has_value()) << "the process did not end";
     EXPECT_TRUE(end->exited) << "ended by signal " << end->status;
     EXPECT_EQ(end->status, 0);
+}
+
+// With the multibyte flag on, every widget but the form and the viewports runs in multibyte
+// mode, and the texts reach the widgets in the locale's encoding. The program chooses its locale
+// before it makes any widget; the multibyte text widget of this toolkit fails when plain widgets
+// came before it in the same process, so the checks run in a fresh run of this test program.
+TEST_F(ActionRequestDialogTest, InternationalWidgetsTakeTheLocalesEncoding) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            CheckInternationalWidgets();
+            _exit(HasFailure() ? 1 : 0);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
+
+void ActionRequestDialogTest::CheckInternationalWidgets() {
+    struct Case {
+        char const* locale;
+        std::string row;
+    };
+    Case const cases[] = {{"de_DE.iso88591",
+                           "Gr\xF6\xDF"
+                           "e pr\xFC"
+                           "fen"},
+                          {"de_DE.utf8",
+                           "Gr\xC3\xB6\xC3\x9F"
+                           "e pr\xC3\xBC"
+                           "fen"}};
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.locale);
+        ScopedCTypeLocale locale(c.locale);
+        ASSERT_TRUE(locale.Ok()) << "scripts/setup makes this locale";
+        international = true;
+        UseNewDisplay();
+        actions = {PendingAction(1,
+                                 "Gr\xC3\xB6\xC3\x9F"
+                                 "e pr\xC3\xBC"
+                                 "fen")};
+        Show();
+        EXPECT_EQ(RowsOf(ActionList()), std::vector<std::string>{c.row});
+        SelectRow(0);
+        EXPECT_EQ(LabelOf(Find("actiontitle")), c.row);
+        for (char const* name :
+             {"actiontitle", "actiondesc", "actionListLabel", "takeAllActions", "takeActions",
+              "cancelAction", "actionDetails", "snoozeLabel", "snoozeButton"}) {
+            Boolean multibyte = False;
+            XtVaGetValues(Find(name), XtNinternational, &multibyte, nullptr);
+            EXPECT_TRUE(multibyte) << name;
+        }
+        for (Widget list : {ActionList(), SnoozeList()}) {
+            Boolean multibyte = False;
+            XtVaGetValues(list, XtNinternational, &multibyte, nullptr);
+            EXPECT_TRUE(multibyte);
+        }
+        SelectRow(XAW_LIST_NONE);
+        HideActionRequestDialog();
+        international = false;
+        UseSuiteDisplay();
+    }
+}
+
+// A selection whose action has gone without the list being redrawn cannot be described; the
+// failure goes up to whoever runs the toolkit's loop.
+TEST_F(ActionRequestDialogTest, SelectingARowWhoseActionHasGoneThrows) {
+    actions = {PendingAction(1, "A"), PendingAction(2, "B")};
+    Show();
+    actions = {PendingAction(3, "C")};
+    XawListHighlight(ActionList(), 1);
+    EXPECT_THROW(PostponeListSelect(ActionList(), nullptr, nullptr, nullptr), NoSelectedAction);
+}
+
+// Without a tree, disabling and enabling change only the flag; updating then draws nothing.
+TEST_F(ActionRequestDialogTest, DisableAndEnableWithoutATreeOnlyChangeTheFlag) {
+    ASSERT_FALSE(IsActionRequestDialogShown());
+    DisableActionRequestDialog();
+    EXPECT_FALSE(IsActionRequestDialogEnabled());
+    EnableActionRequestDialog();
+    EXPECT_TRUE(IsActionRequestDialogEnabled());
+    EXPECT_FALSE(IsActionRequestDialogShown());
 }
