@@ -354,7 +354,10 @@ TEST_F(ActionRequestDialogTest, LongTranslatedLabelsWidenTheDialog) {
     EXPECT_GE(DimensionOf(ActionRequestDialogShell(), XtNwidth), T);
 }
 
-// Which controls can be pressed, and what they read, for each combination that matters.
+// Which controls can be pressed, and what they read, for each combination that matters. The
+// state reads, one character each ('+' on, '-' off): "takeAllActions", "takeActions",
+// "cancelAction", "actionDetails" sensitive, "actionDetails" mapped, "snoozeButton" and the
+// snooze list sensitive. The labels are those of "takeActions", "cancelAction", "snoozeButton".
 TEST_F(ActionRequestDialogTest, SensitivityFollowsActionsSelectionAndDeadlines) {
     int const noRow = XAW_LIST_NONE;
     struct Case {
@@ -362,155 +365,62 @@ TEST_F(ActionRequestDialogTest, SensitivityFollowsActionsSelectionAndDeadlines) 
         std::vector<ActionRequest> pending;
         bool snoozable;
         int row;
-        bool takeAll, take, cancel, details, detailsMapped, snooze, snoozeList;
-        char const* takeLabel;
-        char const* cancelLabel;
-        char const* snoozeLabel;
+        std::string state;
+        std::vector<std::string> labels;
     };
+    std::vector<std::string> const singular{"Take Action", "Cancel Action", "Snooze"};
+    std::vector<std::string> const plural{"Take Actions", "Cancel Actions", "Snooze"};
+    ActionRequest const a = PendingAction(1, "A");
+    ActionRequest const b = PendingAction(2, "B");
     Case const cases[] = {
-        {"no action",
-         {},
-         true,
-         noRow,
-         false,
-         false,
-         false,
-         false,
-         false,
-         true,
-         false,
-         "Take Action",
-         "Cancel Action",
-         "Close"},
-        {"one action, no row",
-         {PendingAction(1, "A")},
-         true,
-         noRow,
-         true,
-         false,
-         false,
-         false,
-         false,
-         true,
-         true,
-         "Take Actions",
-         "Cancel Actions",
-         "Snooze"},
-        {"a previewable action, no row",
-         {WithPreview(PendingAction(1, "A"))},
-         true,
-         noRow,
-         true,
-         false,
-         false,
-         false,
-         true,
-         true,
-         true,
-         "Take Actions",
-         "Cancel Actions",
-         "Snooze"},
+        {"no action", {}, true, noRow, "-----+-", {"Take Action", "Cancel Action", "Close"}},
+        {"one action, no row", {a}, true, noRow, "+----++", plural},
+        {"a previewable action, no row", {WithPreview(a)}, true, noRow, "+---+++", plural},
         {"a cancellable row with preview",
-         {Cancellable(WithPreview(PendingAction(1, "A")))},
+         {Cancellable(WithPreview(a))},
          true,
          0,
-         true,
-         true,
-         true,
-         true,
-         true,
-         true,
-         true,
-         "Take Action",
-         "Cancel Action",
-         "Snooze"},
+         "+++++++",
+         singular},
         {"a plain row while another has a preview",
-         {PendingAction(1, "A"), WithPreview(PendingAction(2, "B"))},
+         {a, WithPreview(b)},
          true,
          0,
-         true,
-         true,
-         false,
-         false,
-         true,
-         true,
-         true,
-         "Take Action",
-         "Cancel Action",
-         "Snooze"},
+         "++--+++",
+         singular},
         {"a deadline 4:59 away on the other action",
-         {Cancellable(PendingAction(1, "A")), DueIn(PendingAction(2, "B"), 299)},
+         {Cancellable(a), DueIn(b, 299)},
          true,
          0,
-         true,
-         true,
-         true,
-         false,
-         false,
-         false,
-         false,
-         "Take Action",
-         "Cancel Action",
-         "Snooze"},
+         "+++----",
+         singular},
         {"a deadline more than five minutes away",
-         {PendingAction(1, "A"), DueIn(PendingAction(2, "B"), 310)},
+         {a, DueIn(b, 310)},
          true,
          noRow,
-         true,
-         false,
-         false,
-         false,
-         false,
-         true,
-         true,
-         "Take Actions",
-         "Cancel Actions",
-         "Snooze"},
-        {"snoozing not allowed",
-         {PendingAction(1, "A")},
-         false,
-         noRow,
-         true,
-         false,
-         false,
-         false,
-         false,
-         false,
-         false,
-         "Take Actions",
-         "Cancel Actions",
-         "Snooze"},
-        {"only an action without title",
-         {PendingAction(1, "")},
-         true,
-         noRow,
-         true,
-         false,
-         false,
-         false,
-         false,
-         true,
-         true,
-         "Take Actions",
-         "Cancel Actions",
-         "Snooze"},
+         "+----++",
+         plural},
+        {"snoozing not allowed", {a}, false, noRow, "+------", plural},
+        {"only an action without title", {PendingAction(1, "")}, true, noRow, "+----++", plural},
     };
     for (Case const& c : cases) {
         SCOPED_TRACE(c.what);
         actions = c.pending;
         Show(fiveMinutes, c.snoozable);
         if (c.row != noRow) SelectRow(c.row);
-        EXPECT_EQ(SensitiveResource(Find("takeAllActions")), c.takeAll);
-        EXPECT_EQ(SensitiveResource(Find("takeActions")), c.take);
-        EXPECT_EQ(SensitiveResource(Find("cancelAction")), c.cancel);
-        EXPECT_EQ(SensitiveResource(Find("actionDetails")), c.details);
-        EXPECT_EQ(MappedWhenManaged(Find("actionDetails")), c.detailsMapped);
-        EXPECT_EQ(SensitiveResource(Find("snoozeButton")), c.snooze);
-        EXPECT_EQ(SensitiveResource(SnoozeList()), c.snoozeList);
+        std::string state;
+        for (bool on :
+             {SensitiveResource(Find("takeAllActions")), SensitiveResource(Find("takeActions")),
+              SensitiveResource(Find("cancelAction")), SensitiveResource(Find("actionDetails")),
+              MappedWhenManaged(Find("actionDetails")), SensitiveResource(Find("snoozeButton")),
+              SensitiveResource(SnoozeList())})
+            state += on ? '+' : '-';
+        EXPECT_EQ(state, c.state);
         EXPECT_TRUE(SensitiveResource(ActionList()));
-        EXPECT_EQ(LabelOf(Find("takeActions")), c.takeLabel);
-        EXPECT_EQ(LabelOf(Find("cancelAction")), c.cancelLabel);
-        EXPECT_EQ(LabelOf(Find("snoozeButton")), c.snoozeLabel);
+        EXPECT_EQ(
+            (std::vector<std::string>{LabelOf(Find("takeActions")), LabelOf(Find("cancelAction")),
+                                      LabelOf(Find("snoozeButton"))}),
+            c.labels);
         SelectRow(noRow);
         HideActionRequestDialog();
     }
