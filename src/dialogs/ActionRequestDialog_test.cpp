@@ -807,3 +807,19 @@ TEST_F(ActionRequestDialogTest, DisableAndEnableWithoutATreeOnlyChangeTheFlag) {
     EXPECT_TRUE(IsActionRequestDialogEnabled());
     EXPECT_FALSE(IsActionRequestDialogShown());
 }
+
+// Every redraw of the controls rebuilds the snooze list, so a click in the action list drops
+// the user's snooze choice for the preselected one.
+TEST_F(ActionRequestDialogTest, SelectingARowResetsTheSnoozeChoice) {
+    actions = {PendingAction(1, "A"), PendingAction(2, "B")};
+    Show();
+    XawListHighlight(SnoozeList(), 6);
+    XawListReturnStruct chosen{const_cast<char*>("in 1 hour"), 6};
+    XtCallCallbacks(SnoozeList(), XtNcallback, &chosen);
+    SelectRow(1);
+    EXPECT_EQ(HighlightedRow(SnoozeList()), 1);
+    Press("snoozeButton");
+    EXPECT_EQ(TakeQueuedCommands(),
+              (std::vector<QueuedCommand>{
+                  {UICommandSnooze, 0, 5, static_cast<uint32_t>(INT64_MAX / 1000000)}}));
+}
