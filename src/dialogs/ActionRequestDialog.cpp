@@ -132,8 +132,7 @@ void SetCancelText(AutoUString<UTF8> const& text) {
 }
 void SetDescriptionText(AutoUString<UTF8> const& text) {
     m_descriptionSlot = ControlLiteral(MakeLocalString(text));
-    char* copy = XtMalloc(static_cast<Cardinal>(m_descriptionSlot->size() + 1));
-    std::memcpy(copy, m_descriptionSlot->c_str(), m_descriptionSlot->size() + 1);
+    char* copy = TextWidgetString(*m_descriptionSlot);
     Arg argument;
     XtSetArg(argument, XtNstring, copy);
     XtSetValues(w.actionDesc, &argument, 1);
@@ -605,12 +604,10 @@ void BuildTree() {
     GrowByScrollbar(w.viewport);
     GrowByScrollbar(w.snoozeViewport);
     CenterDialogOnDisplay(w.shell);
-    Atom deleteWindow = XInternAtom(display, "WM_DELETE_WINDOW", False);
-    XSetWMProtocols(display, XtWindow(w.shell), &deleteWindow, 1);
+    DeclareDeleteWindow(w.shell);
     PrepareScrolling(w.viewport, w.actionList);
     PrepareScrolling(w.snoozeViewport, w.snoozeList);
-    if (Widget scrollbar = XtNameToWidget(w.actionDesc, "vScrollbar"))
-        OverrideScrollbarTranslations(scrollbar);
+    OverrideTextScrollbarTranslations(w.actionDesc);
     m_dialogEnabled = true;
 }
 
@@ -631,11 +628,7 @@ void ShowActionRequestDialog(bool, TimeInterval const& remindInterval, bool snoo
     } catch (...) {
         // In practice a text the locale cannot express. The agent is told, and the process
         // ends: no half-built dialog stays.
-        ClientUIErrorMessage report;
-        report.m_code = ClientUIErrorMessage::DialogBuildFailed;
-        report.m_debugString = dialogName;
-        SendErrorToClient(report);
-        ExitCleanup(0, "TranscodeError");
+        ReportDialogBuildFailure(dialogName);
     }
     UpdateActionRequestDialog();
 }
