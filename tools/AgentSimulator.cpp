@@ -20,6 +20,27 @@ long NowMs() {
     return now.tv_sec * 1000L + now.tv_nsec / 1000000L;
 }
 
+// Returns the simulator's environment with each NAME=VALUE of changes put in place of the
+// variable of that name, or added; of two changes to one name the later counts.
+std::vector<std::string> MergedEnvironment(std::vector<std::string> const& changes) {
+    std::vector<std::string> merged;
+    auto nameOf = [](std::string const& entry) { return entry.substr(0, entry.find('=')); };
+    for (char** entry = environ; *entry; ++entry) {
+        std::string variable = *entry;
+        bool replaced = false;
+        for (auto const& change : changes)
+            replaced = replaced || nameOf(change) == nameOf(variable);
+        if (!replaced) merged.push_back(variable);
+    }
+    for (size_t i = 0; i < changes.size(); ++i) {
+        bool overridden = false;
+        for (size_t later = i + 1; later < changes.size(); ++later)
+            overridden = overridden || nameOf(changes[later]) == nameOf(changes[i]);
+        if (!overridden) merged.push_back(changes[i]);
+    }
+    return merged;
+}
+
 }  // namespace
 
 AgentSimulator::~AgentSimulator() {
@@ -33,7 +54,7 @@ AgentSimulator::~AgentSimulator() {
 }
 
 void AgentSimulator::Launch(std::string const& program, std::vector<std::string> const& arguments,
-                            bool closeReadEnd) {
+                            bool closeReadEnd, std::vector<std::string> const& environment) {
     int toProcess[2], fromProcess[2];
     if (pipe2(toProcess, O_CLOEXEC) != 0 || pipe2(fromProcess, O_CLOEXEC) != 0)
         throw std::runtime_error("cannot make pipes");
@@ -43,6 +64,10 @@ void AgentSimulator::Launch(std::string const& program, std::vector<std::string>
     argv.push_back(const_cast<char*>(program.c_str()));
     for (auto const& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
+    std::vector<std::string> variables = MergedEnvironment(environment);
+    std::vector<char*> envp;
+    for (auto& variable : variables) envp.push_back(&variable[0]);
+    envp.push_back(nullptr);
     if (closeReadEnd) {
         close(fromProcess[0]);
         fromProcess[0] = -1;
@@ -55,7 +80,7 @@ void AgentSimulator::Launch(std::string const& program, std::vector<std::string>
         signal(SIGPIPE, SIG_DFL);
         dup2(toProcess[0], 0);
         dup2(fromProcess[1], 1);
-        execv(program.c_str(), argv.data());
+        execve(program.c_str(), argv.data(), envp.data());
         _exit(127);
     }
     m_pid = pid;
@@ -76,9 +101,9 @@ bool AgentSimulator::SendRaw(std::string const& bytes) {
     return true;
 }
 
-void AgentSimulator::SendFrame(std::string const& text) {
+bool AgentSimulator::SendFrame(std::string const& text) {
     uint32_t length = static_cast<uint32_t>(text.size());
-    SendRaw(std::string(reinterpret_cast<char const*>(&length), sizeof length) + text);
+    return SendRaw(std::string(reinterpret_cast<char const*>(&length), sizeof length) + text);
 }
 
 void AgentSimulator::CloseToProcess() {

@@ -27,12 +27,14 @@ class AgentSimulator {
 
     // Starts program with the two pipes. With closeReadEnd the agent's reading end of the
     // process's descriptor 1 is closed at once, so the process's first write finds no reader.
+    // environment holds NAME=VALUE entries that replace or add to the simulator's own.
     // Throws std::runtime_error if the process cannot be started.
     void Launch(std::string const& program, std::vector<std::string> const& arguments = {},
-                bool closeReadEnd = false);
+                bool closeReadEnd = false, std::vector<std::string> const& environment = {});
 
-    // Writes one frame: the length in host byte order, then the text.
-    void SendFrame(std::string const& text);
+    // Writes one frame: the length in host byte order, then the text. Returns false once the
+    // pipe is gone.
+    bool SendFrame(std::string const& text);
     // Writes raw bytes, for frames cut or malformed on purpose. Returns false once the pipe
     // is gone.
     bool SendRaw(std::string const& bytes);
