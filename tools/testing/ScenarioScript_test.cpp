@@ -1,0 +1,131 @@
+#include "ScenarioScript.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+// Returns the message of the error that parsing the text throws, or "no error".
+std::string ScenarioParseFailure(std::string const& text) {
+    try {
+        ParseScenario(text, "dir/case.scenario");
+    } catch (ScenarioError const& failure) {
+        return failure.what();
+    }
+    return "no error";
+}
+
+}  // namespace
+
+TEST(ScenarioScript, ReadsEachStepWithItsArgumentsAndOptions) {
+    Scenario scenario = ParseScenario(
+        "# a comment line\n"
+        "\n"
+        "start LANG=C ZOLCLIENTUI_TRACE=1\n"
+        "send documents/init.xml   # trailing comment\n"
+        "expect ActionTaken ID=1001 IsCancel=false within=700\n"
+        "click \"Title with \\\"quotes\\\"\" viewport row=2\r\n"
+        "type \"a b\\tc\\n\"\n"
+        "screenshot out/one.png \"Pending actions\"\n"
+        "pause 250\n"
+        "expect-exit -1 within=3000\n",
+        "dir/case.scenario");
+    EXPECT_EQ("dir", scenario.directory);
+    ASSERT_EQ(8u, scenario.steps.size());
+
+    ScenarioStep const& start = scenario.steps[0];
+    EXPECT_EQ(StepKind::Start, start.kind);
+    EXPECT_EQ(3, start.line);
+    ASSERT_EQ(2u, start.pairs.size());
+    EXPECT_EQ("ZOLCLIENTUI_TRACE", start.pairs[1].first);
+    EXPECT_EQ("1", start.pairs[1].second);
+
+    EXPECT_EQ(StepKind::Send, scenario.steps[1].kind);
+    EXPECT_EQ(std::vector<std::string>{"documents/init.xml"}, scenario.steps[1].words);
+
+    ScenarioStep const& expect = scenario.steps[2];
+    EXPECT_EQ(700, expect.withinMs);
+    EXPECT_EQ(std::vector<std::string>{"ActionTaken"}, expect.words);
+    ASSERT_EQ(2u, expect.pairs.size());
+    EXPECT_EQ("IsCancel", expect.pairs[1].first);
+    EXPECT_EQ("false", expect.pairs[1].second);
+
+    ScenarioStep const& click = scenario.steps[3];
+    EXPECT_EQ(6, click.line);
+    EXPECT_EQ(2, click.row);
+    EXPECT_EQ("Title with \"quotes\"", click.words[0]);
+    EXPECT_EQ("viewport", click.words[1]);
+
+    EXPECT_EQ("a b\tc\n", scenario.steps[4].words[0]);
+    EXPECT_EQ(2u, scenario.steps[5].words.size());
+    EXPECT_EQ(250, scenario.steps[6].number);
+    EXPECT_EQ(-1, scenario.steps[7].number);
+    EXPECT_EQ(3000, scenario.steps[7].withinMs);
+}
+
+TEST(ScenarioScript, WaitingStepsHaveADefaultTimeThatWithinReplaces) {
+    Scenario scenario = ParseScenario(
+        "expect ReadyForData\nwait-window T\nwait-window T within=90\nclick T b\n", "s");
+    EXPECT_GT(scenario.steps[0].withinMs, 0);
+    EXPECT_GT(scenario.steps[1].withinMs, 0);
+    EXPECT_EQ(90, scenario.steps[2].withinMs);
+    EXPECT_EQ(-1, scenario.steps[3].row);
+}
+
+TEST(ScenarioScript, SendTextTakesTheRestOfTheLineByteForByte) {
+    std::string const document = "<ClientToUI><A>\"x\" # not a comment</A></ClientToUI>";
+    Scenario scenario = ParseScenario("  send-text   " + document + "\n", "s");
+    ASSERT_EQ(1u, scenario.steps.size());
+    EXPECT_EQ(document, scenario.steps[0].words[0]);
+}
+
+TEST(ScenarioScript, ExpectValuesMayBeEmptyOrQuotedWithBlanks) {
+    Scenario scenario =
+        ParseScenario("expect Clicked Text= Title=\"two words\" Widget=\"a=b\"\n", "s");
+    auto const& pairs = scenario.steps[0].pairs;
+    ASSERT_EQ(3u, pairs.size());
+    EXPECT_EQ("", pairs[0].second);
+    EXPECT_EQ("two words", pairs[1].second);
+    EXPECT_EQ("a=b", pairs[2].second);
+}
+
+TEST(ScenarioScript, ErrorsNameTheFileAndLine) {
+    struct Case {
+        char const* text;
+        char const* message;
+    } const cases[] = {
+        {"expect A\nfrobnicate now\n", "dir/case.scenario:2: unknown step \"frobnicate\""},
+        {"\n\n\nsend\n", "dir/case.scenario:4: send takes 1 argument, not 0"},
+        {"send a b\n", "dir/case.scenario:1: send takes 1 argument, not 2"},
+        {"screenshot\n", "dir/case.scenario:1: screenshot takes 1 or 2 arguments, not 0"},
+        {"click T\n", "dir/case.scenario:1: click takes 2 arguments, not 1"},
+        {"# c\npause soon\n", "dir/case.scenario:2: pause must be a whole number, not \"soon\""},
+        {"pause 10ms\n", "dir/case.scenario:1: pause must be a whole number, not \"10ms\""},
+        {"expect A within=\n", "dir/case.scenario:1: within must be a whole number, not \"\""},
+        {"click T b row=-1\n", "dir/case.scenario:1: row counts from 0"},
+        {"send f within=10\n", "dir/case.scenario:1: send takes no option \"within\""},
+        {"click T b Row=1\n", "dir/case.scenario:1: click takes no option \"Row\""},
+        {"wait-window \"open\n", "dir/case.scenario:1: unterminated quote"},
+        {"expect-exit\n", "dir/case.scenario:1: expect-exit takes 1 argument, not 0"},
+        {"send-text\n", "dir/case.scenario:1: send-text needs a document"},
+        {"close now\n", "dir/case.scenario:1: close takes 0 arguments, not 1"},
+    };
+    for (Case const& c : cases) EXPECT_EQ(c.message, ScenarioParseFailure(c.text)) << c.text;
+}
+
+TEST(ScenarioScript, AMissingFileIsAnError) {
+    try {
+        ReadScenarioFile("/nonexistent/dir/x.scenario");
+        FAIL() << "no error";
+    } catch (ScenarioError const& failure) {
+        EXPECT_EQ(std::string("/nonexistent/dir/x.scenario: cannot read the scenario"),
+                  failure.what());
+    }
+}
+
+TEST(ScenarioScript, RelativePathsStartAtTheScenarioFolder) {
+    EXPECT_EQ("/abs/x.png", ResolvePath("dir", "/abs/x.png"));
+    EXPECT_EQ("dir/sub/x.png", ResolvePath("dir", "sub/x.png"));
+    EXPECT_EQ(".", ParseScenario("", "plain.scenario").directory);
+}
