@@ -4,8 +4,6 @@
 // server. Prints every step and every document exchanged. Used by `agentsim --scenario` and
 // by end-to-end tests.
 
-#include <X11/Xlib.h>
-
 #include <deque>
 #include <optional>
 #include <ostream>
@@ -15,6 +13,11 @@
 #include "AgentSimulator.h"
 #include "DocumentMatch.h"
 #include "ScenarioScript.h"
+
+// Xlib's two types as Xlib declares them, so that users of this header do not get Xlib's macros
+// (None, Status, Bool), which clash with other libraries' names.
+typedef struct _XDisplay Display;
+typedef unsigned long Window;
 
 struct ScenarioOptions {
     std::string program;                 // the program to start

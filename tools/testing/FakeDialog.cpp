@@ -3,7 +3,8 @@
 // small share of the pipe protocol: frames of a 32-bit length in host order and a document.
 //
 // It greets with ReadyForData, then reads documents on descriptor 0, looking only for:
-//   <Show><Title>T</Title></Show>           build and show the dialog titled T
+//   <Show><Title>T</Title></Show>           build and show the dialog titled T; optional
+//                                           <Width> and <Height> fix the window's size
 //   <Hide/>                                 destroy it
 //   <ScrollSnooze><Pixels>N</Pixels></ScrollSnooze>   scroll the snooze list down N pixels
 //   <Exit><Status>N</Status></Exit>         exit with status N
@@ -141,10 +142,11 @@ Widget ListIn(char const* name, Widget form, Widget above, int width, int height
     return viewport;
 }
 
-void Show(std::string const& title) {
+void Show(std::string const& title, int width, int height) {
     if (shell) return;
     shell = XtVaAppCreateShell(nullptr, "FakeDialog", applicationShellWidgetClass, display,
                                XtNtitle, title.c_str(), nullptr);
+    if (width > 0 && height > 0) XtVaSetValues(shell, XtNwidth, width, XtNheight, height, nullptr);
     Widget form = XtCreateManagedWidget("form", formWidgetClass, shell, nullptr, 0);
     Widget title_ = XtVaCreateManagedWidget("actiontitle", labelWidgetClass, form, XtNlabel,
                                             "One pending action", XtNborderWidth, 0, nullptr);
@@ -175,7 +177,8 @@ void ReadFrame(XtPointer, int*, XtInputId*) {
     std::string document(length, '\0');
     if (!ReadAll(&document[0], length)) std::exit(0);
     if (document.find("<Show>") != std::string::npos) {
-        Show(ValueOf(document, "Title"));
+        Show(ValueOf(document, "Title"), std::atoi(ValueOf(document, "Width").c_str()),
+             std::atoi(ValueOf(document, "Height").c_str()));
     } else if (document.find("<Hide/>") != std::string::npos && shell) {
         XtDestroyWidget(shell);
         shell = nullptr;
