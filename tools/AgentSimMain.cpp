@@ -73,7 +73,10 @@ int PlayScenario(std::string const& file, ScenarioOptions options, bool privateS
             std::cout << "agentsim: FAILED at " << failure.what() << std::endl;
             return 1;
         }
-        std::cout << "agentsim: scenario passed" << std::endl;
+        std::cout << "agentsim: scenario passed";
+        if (runner.TriedFailures() > 0)
+            std::cout << "; " << runner.TriedFailures() << " step(s) after \"try\" failed";
+        std::cout << std::endl;
         return 0;
     } catch (std::exception const& failure) {
         std::cerr << "agentsim: " << failure.what() << std::endl;

@@ -48,6 +48,8 @@ class ScenarioRunner {
 
     // Returns how the program ended, once it has.
     std::optional<ProcessEnd> End() const { return m_end; }
+    // Returns how many steps written after "try" failed.
+    int TriedFailures() const { return m_triedFailures; }
 
   private:
     struct Received {
@@ -89,5 +91,6 @@ class ScenarioRunner {
     std::optional<ProcessEnd> m_end;
     std::deque<Received> m_pending;  // received and not yet taken by an expect step
     int m_receivedCount = 0;
+    int m_triedFailures = 0;
     Display* m_display = nullptr;
 };

@@ -1,6 +1,7 @@
 #include "ScenarioScript.h"
 
 #include <cctype>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -86,6 +87,13 @@ ScenarioStep ParseStep(std::string const& line, int lineNumber, std::string cons
     ScenarioStep step;
     step.line = lineNumber;
     step.text = line.substr(line.find_first_not_of(" \t"));
+    std::string rest = line;  // the line from the command on
+    if (tokens[0].text == "try") {
+        if (tokens.size() == 1) throw ScenarioError(where + ": try needs a step");
+        step.tried = true;
+        tokens.erase(tokens.begin());
+        rest = line.substr(line.find("try") + 3);
+    }
     CommandRule const* rule = nullptr;
     for (CommandRule const& candidate : rules)
         if (tokens[0].text == candidate.name) rule = &candidate;
@@ -95,9 +103,9 @@ ScenarioStep ParseStep(std::string const& line, int lineNumber, std::string cons
 
     if (rule->kind == StepKind::SendText) {
         // The document is taken byte for byte, quotes and '#' included.
-        size_t start = line.find_first_not_of(" \t", line.find_first_not_of(" \t") + 9);
+        size_t start = rest.find_first_not_of(" \t", rest.find_first_not_of(" \t") + 9);
         if (start == std::string::npos) throw ScenarioError(where + ": send-text needs a document");
-        step.words.push_back(line.substr(start));
+        step.words.push_back(rest.substr(start));
         return step;
     }
 
@@ -156,6 +164,22 @@ Scenario ReadScenarioFile(std::string const& path) {
     if (!in) throw ScenarioError(path + ": cannot read the scenario");
     std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     return ParseScenario(text, path);
+}
+
+std::string ExpandVariables(std::string const& text) {
+    std::string expanded;
+    size_t done = 0;
+    for (size_t start = text.find("${"); start != std::string::npos;
+         start = text.find("${", done)) {
+        size_t end = text.find('}', start);
+        if (end == std::string::npos) break;
+        std::string name = text.substr(start + 2, end - start - 2);
+        char const* value = std::getenv(name.c_str());
+        if (!value) throw ScenarioError("the document uses ${" + name + "}, which is not set");
+        expanded += text.substr(done, start - done) + value;
+        done = end + 1;
+    }
+    return expanded + text.substr(done);
 }
 
 std::string ResolvePath(std::string const& directory, std::string const& path) {

@@ -18,7 +18,9 @@
 //   expect-exit STATUS              the program ends with that status
 //
 // Words with spaces are double-quoted, with \" \\ \n \t as escapes. Steps that wait take
-// within=MS.
+// within=MS. A step written after the word "try" may fail: the run reports the failure and goes
+// on. In the documents of send and send-text, ${NAME} stands for the runner's environment
+// variable NAME.
 
 #include <stdexcept>
 #include <string>
@@ -48,9 +50,10 @@ struct ScenarioStep {
     std::vector<std::string> words;  // positional arguments, unquoted
     // CHILD=VALUE of expect and NAME=VALUE of start, in the order written.
     std::vector<std::pair<std::string, std::string>> pairs;
-    int withinMs = 0;  // how long a waiting step waits; each kind has its default
-    int row = -1;      // click ... row=N, or -1
-    int number = 0;    // pause MS, expect-exit STATUS
+    int withinMs = 0;    // how long a waiting step waits; each kind has its default
+    int row = -1;        // click ... row=N, or -1
+    int number = 0;      // pause MS, expect-exit STATUS
+    bool tried = false;  // written after "try": a failure is reported, not fatal
 };
 
 struct Scenario {
@@ -71,6 +74,10 @@ Scenario ParseScenario(std::string const& text, std::string const& file);
 
 // Returns the scenario read from the file. Throws ScenarioError if it cannot be read or parsed.
 Scenario ReadScenarioFile(std::string const& path);
+
+// Returns the text with each ${NAME} replaced by the value of the environment variable NAME.
+// Throws ScenarioError naming the first variable that is not set.
+std::string ExpandVariables(std::string const& text);
 
 // Returns path as it stands if absolute, else joined to directory.
 std::string ResolvePath(std::string const& directory, std::string const& path);

@@ -147,3 +147,22 @@ TEST_F(ScenarioRunnerTest, AFailureNamesTheLineTheStepAndWhatWasSeen) {
         EXPECT_EQ(expected, failure.substr(0, expected.size())) << c.scenario;
     }
 }
+
+TEST_F(ScenarioRunnerTest, ATriedStepThatFailsIsReportedAndTheRunGoesOn) {
+    setenv("SCENARIO_RUNNER_TITLE", "From the environment", 1);
+    ScenarioOptions options;
+    options.program = FAKEDIALOG_PATH;
+    options.displayName = m_server.DisplayName();
+    ScenarioRunner runner(options, m_log);
+    runner.Run(ParseScenario(
+        "expect ReadyForData\n"
+        "try wait-window \"From the environment\" within=200\n"
+        "send-text <ClientToUI><Show><Title>${SCENARIO_RUNNER_TITLE}</Title></Show></ClientToUI>\n"
+        "try wait-window \"From the environment\"\n"
+        "try screenshot gone.png Elsewhere\n"
+        "screenshot here.png \"From the environment\"\n",
+        Path("case.scenario")));
+    EXPECT_EQ(2, runner.TriedFailures()) << m_log.str();
+    EXPECT_FALSE(Exists(Path("gone.png")));
+    EXPECT_TRUE(Exists(Path("here.png")));
+}

@@ -110,6 +110,8 @@ TEST(ScenarioScript, ErrorsNameTheFileAndLine) {
         {"expect-exit\n", "dir/case.scenario:1: expect-exit takes 1 argument, not 0"},
         {"send-text\n", "dir/case.scenario:1: send-text needs a document"},
         {"close now\n", "dir/case.scenario:1: close takes 0 arguments, not 1"},
+        {"try\n", "dir/case.scenario:1: try needs a step"},
+        {"try try close\n", "dir/case.scenario:1: unknown step \"try\""},
     };
     for (Case const& c : cases) EXPECT_EQ(c.message, ScenarioParseFailure(c.text)) << c.text;
 }
@@ -128,4 +130,33 @@ TEST(ScenarioScript, RelativePathsStartAtTheScenarioFolder) {
     EXPECT_EQ("/abs/x.png", ResolvePath("dir", "/abs/x.png"));
     EXPECT_EQ("dir/sub/x.png", ResolvePath("dir", "sub/x.png"));
     EXPECT_EQ(".", ParseScenario("", "plain.scenario").directory);
+}
+
+TEST(ScenarioScript, TryMarksAStepThatMayFail) {
+    Scenario scenario = ParseScenario(
+        "try wait-window \"Action Requests\" within=100\n"
+        "wait-window T\n"
+        "  try send-text <A>try</A>\n",
+        "s");
+    ASSERT_EQ(3u, scenario.steps.size());
+    EXPECT_TRUE(scenario.steps[0].tried);
+    EXPECT_EQ(StepKind::WaitWindow, scenario.steps[0].kind);
+    EXPECT_EQ(100, scenario.steps[0].withinMs);
+    EXPECT_FALSE(scenario.steps[1].tried);
+    EXPECT_TRUE(scenario.steps[2].tried);
+    EXPECT_EQ("<A>try</A>", scenario.steps[2].words[0]);
+}
+
+TEST(ScenarioScript, DocumentsTakeEnvironmentVariables) {
+    setenv("SCENARIO_TEST_DEADLINE", "Mon, 23 Nov 2026 13:00:00 +0000", 1);
+    unsetenv("SCENARIO_TEST_UNSET");
+    EXPECT_EQ("<Deadline>Mon, 23 Nov 2026 13:00:00 +0000</Deadline> $HOME ${",
+              ExpandVariables("<Deadline>${SCENARIO_TEST_DEADLINE}</Deadline> $HOME ${"));
+    try {
+        ExpandVariables("a ${SCENARIO_TEST_UNSET} b");
+        FAIL() << "no error";
+    } catch (ScenarioError const& failure) {
+        EXPECT_EQ(std::string("the document uses ${SCENARIO_TEST_UNSET}, which is not set"),
+                  failure.what());
+    }
 }
