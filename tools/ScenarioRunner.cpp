@@ -116,6 +116,9 @@ void ScenarioRunner::Play(ScenarioStep const& step, Scenario const& scenario) {
         case StepKind::Click:
             Click(step);
             break;
+        case StepKind::ExpectRows:
+            ExpectRows(step);
+            break;
         case StepKind::Type:
             if (!HasXTest(X())) throw ScenarioError("the X server has no XTest extension");
             TypeText(X(), step.words[0]);
@@ -314,6 +317,32 @@ void ScenarioRunner::ClickRow(Window viewport, std::string const& where, int row
         }
         if (NowMs() >= deadline)
             throw ScenarioError("no row " + std::to_string(row) + " in " + where + ": " + seen);
+        Pump(pollMs);
+    }
+}
+
+void ScenarioRunner::ExpectRows(ScenarioStep const& step) {
+    std::string const& title = step.words[0];
+    std::string const& name = step.words[1];
+    std::string where = Quoted(name) + " of " + Quoted(title);
+    // The list may be refilled at the next tick of the program: look until the time is up.
+    long deadline = NowMs() + step.withinMs;
+    for (;;) {
+        Window viewport = FindWidgetWindow(X(), TitledWindow(title), name);
+        ViewportList windows = FindViewportList(X(), viewport);
+        ScreenRect list = RootRectangle(X(), windows.list);
+        ScreenRect clip = RootRectangle(X(), windows.clip);
+        // Rows are counted by their pixels, so all of them must be in view.
+        if (list.y < clip.y || list.y + list.height > clip.y + clip.height)
+            throw ScenarioError(where +
+                                " is taller than its viewport: its rows cannot all be seen");
+        int count = 0;
+        if (IsOnScreen(X(), windows.list) && list.width > 0 && list.height > 0)
+            count = static_cast<int>(FindRowBands(CaptureRectangle(X(), list)).size());
+        if (count == step.number) return;
+        if (NowMs() >= deadline)
+            throw ScenarioError(where + " has " + std::to_string(count) + " rows, expected " +
+                                std::to_string(step.number));
         Pump(pollMs);
     }
 }

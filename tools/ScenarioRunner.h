@@ -67,6 +67,7 @@ class ScenarioRunner {
     void WaitForWindow(std::string const& title, bool present, int withinMs);
     void Click(ScenarioStep const& step);
     void ClickRow(Window viewport, std::string const& where, int row, int withinMs);
+    void ExpectRows(ScenarioStep const& step);
     void Screenshot(ScenarioStep const& step, Scenario const& scenario);
     void ExpectExit(ScenarioStep const& step);
     void Finish();

@@ -27,6 +27,7 @@ CommandRule const rules[] = {
     {"wait-window", StepKind::WaitWindow, 1, 1, true, false, false, 5000},
     {"wait-no-window", StepKind::WaitNoWindow, 1, 1, true, false, false, 5000},
     {"click", StepKind::Click, 2, 2, true, true, false, 2000},
+    {"expect-rows", StepKind::ExpectRows, 3, 3, true, false, false, 3000},
     {"type", StepKind::Type, 1, 1, false, false, false, 0},
     {"screenshot", StepKind::Screenshot, 1, 2, false, false, false, 0},
     {"pause", StepKind::Pause, 1, 1, false, false, false, 0},
@@ -138,6 +139,10 @@ ScenarioStep ParseStep(std::string const& line, int lineNumber, std::string cons
     if (rule->kind == StepKind::Pause) step.number = ReadNumber(step.words[0], "pause", where);
     if (rule->kind == StepKind::ExpectExit)
         step.number = ReadNumber(step.words[0], "exit status", where);
+    if (rule->kind == StepKind::ExpectRows) {
+        step.number = ReadNumber(step.words[2], "the number of rows", where);
+        if (step.number < 0) throw ScenarioError(where + ": the number of rows counts from 0");
+    }
     return step;
 }
 

@@ -11,6 +11,7 @@
 //   wait-window TITLE               a top-level window of that title is mapped
 //   wait-no-window TITLE            no top-level window of that title is mapped
 //   click TITLE WIDGET [row=N]      pointer click on a widget of that dialog, or a list row
+//   expect-rows TITLE WIDGET N      the list in that viewport has N rows, all in view
 //   type TEXT                       key presses for the text
 //   screenshot PATH [TITLE]         PNG of the screen, or of one window
 //   pause MS                        wait, taking documents as they come
@@ -36,6 +37,7 @@ enum class StepKind {
     WaitWindow,
     WaitNoWindow,
     Click,
+    ExpectRows,
     Type,
     Screenshot,
     Pause,

@@ -6,6 +6,7 @@
 //   <Show><Title>T</Title></Show>           build and show the dialog titled T; optional
 //                                           <Width> and <Height> fix the window's size
 //   <Hide/>                                 destroy it
+//   <Rows>N</Rows>                          the action list holds its first N rows
 //   <ScrollSnooze><Pixels>N</Pixels></ScrollSnooze>   scroll the snooze list down N pixels
 //   <Exit><Status>N</Status></Exit>         exit with status N
 // End of stream exits with 0. A button press sends
@@ -35,6 +36,7 @@ Display* display;
 Widget shell;
 Widget description;
 Widget snoozeViewport;
+Widget actionList;
 
 char const* actionRows[] = {"first row", "second row", "third row"};
 char const* snoozeRows[] = {"in 1 minute",  "in 2 minutes",  "in 3 minutes",  "in 4 minutes",
@@ -142,6 +144,16 @@ Widget ListIn(char const* name, Widget form, Widget above, int width, int height
     return viewport;
 }
 
+// Returns the list that a viewport made by ListIn holds: its one child that is a list.
+Widget ListOf(Widget viewport) {
+    WidgetList children = nullptr;
+    Cardinal count = 0;
+    XtVaGetValues(viewport, XtNchildren, &children, XtNnumChildren, &count, nullptr);
+    for (Cardinal i = 0; i < count; ++i)
+        if (XtClass(children[i]) == listWidgetClass) return children[i];
+    return nullptr;
+}
+
 void Show(std::string const& title, int width, int height) {
     if (shell) return;
     shell = XtVaAppCreateShell(nullptr, "FakeDialog", applicationShellWidgetClass, display,
@@ -158,6 +170,7 @@ void Show(std::string const& title, int width, int height) {
         XtVaCreateManagedWidget("actionListLabel", labelWidgetClass, form, XtNfromVert, description,
                                 XtNlabel, "Title  --  Deadline", XtNborderWidth, 0, nullptr);
     Widget viewport = ListIn("viewport", form, heading, 385, 100, actionRows, 3);
+    actionList = ListOf(viewport);
     Button("takeAllActions", form, viewport, 4);
     Button("takeActions", form, viewport, 320);
     Button("cancelAction", form, viewport, 220);
@@ -185,6 +198,9 @@ void ReadFrame(XtPointer, int*, XtInputId*) {
     } else if (document.find("<ScrollSnooze>") != std::string::npos && shell) {
         XawViewportSetCoordinates(snoozeViewport, 0,
                                   std::atoi(ValueOf(document, "Pixels").c_str()));
+    } else if (document.find("<Rows>") != std::string::npos && shell) {
+        int count = std::atoi(ValueOf(document, "Rows").c_str());
+        XawListChange(actionList, count > 0 ? actionRows : nullptr, count, 0, True);
     } else if (document.find("<Exit>") != std::string::npos) {
         std::exit(std::atoi(ValueOf(document, "Status").c_str()));
     }

@@ -166,3 +166,23 @@ TEST_F(ScenarioRunnerTest, ATriedStepThatFailsIsReportedAndTheRunGoesOn) {
     EXPECT_FALSE(Exists(Path("gone.png")));
     EXPECT_TRUE(Exists(Path("here.png")));
 }
+
+TEST_F(ScenarioRunnerTest, CountsTheRowsOfAListInView) {
+    EXPECT_EQ("passed", Play("expect ReadyForData\n" + showDialog +
+                             "expect-rows \"Fake actions\" viewport 3\n"
+                             "send-text <ClientToUI><Rows>1</Rows></ClientToUI>\n"
+                             "expect-rows \"Fake actions\" viewport 1\n"
+                             "send-text <ClientToUI><Rows>0</Rows></ClientToUI>\n"
+                             "expect-rows \"Fake actions\" viewport 0\n"))
+        << m_log.str();
+    std::string const failures[][2] = {
+        {"expect-rows \"Fake actions\" viewport 2 within=300\n",
+         "\"viewport\" of \"Fake actions\" has 3 rows, expected 2"},
+        {"expect-rows \"Fake actions\" snoozeViewport 12\n",
+         "\"snoozeViewport\" of \"Fake actions\" is taller than its viewport"},
+    };
+    for (auto const& failure : failures) {
+        std::string message = Play(showDialog + failure[0]);
+        EXPECT_NE(std::string::npos, message.find("\n  " + failure[1])) << message;
+    }
+}

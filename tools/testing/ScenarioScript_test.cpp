@@ -111,6 +111,8 @@ TEST(ScenarioScript, ErrorsNameTheFileAndLine) {
         {"send-text\n", "dir/case.scenario:1: send-text needs a document"},
         {"close now\n", "dir/case.scenario:1: close takes 0 arguments, not 1"},
         {"try\n", "dir/case.scenario:1: try needs a step"},
+        {"expect-rows T viewport\n", "dir/case.scenario:1: expect-rows takes 3 arguments, not 2"},
+        {"expect-rows T viewport -1\n", "dir/case.scenario:1: the number of rows counts from 0"},
         {"try try close\n", "dir/case.scenario:1: unknown step \"try\""},
     };
     for (Case const& c : cases) EXPECT_EQ(c.message, ScenarioParseFailure(c.text)) << c.text;
