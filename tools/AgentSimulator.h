@@ -44,6 +44,9 @@ class AgentSimulator {
     // Returns the next frame the process sends, or nothing if none is complete within
     // timeoutMs or the process closed its side.
     std::optional<std::string> ReceiveFrame(int timeoutMs);
+    // Returns whether frames may still come: false once the process has closed its side. By
+    // then ReceiveFrame has returned every complete frame, since it returns those first.
+    bool MayReceive() const { return m_fromProcess >= 0; }
 
     // Returns whether the process is still running.
     bool Running();

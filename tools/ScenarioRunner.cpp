@@ -187,8 +187,7 @@ bool ScenarioRunner::Pump(int ms, bool untilOne) {
                 if (untilOne) return true;
                 continue;
             }
-            // Nothing before the deadline means the program closed its side.
-            if (NowMs() < deadline) m_pipeOpen = false;
+            m_pipeOpen = m_agent.MayReceive();
         } else {
             if (untilOne) return false;
             usleep(static_cast<useconds_t>(std::min<long>(left, pollMs)) * 1000);
