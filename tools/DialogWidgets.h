@@ -2,7 +2,10 @@
 // Widgets by name on the server side. An X server knows no widget names, so a widget is found
 // through the fixed shape of the dialogs' trees: the titled top-level window has one child, the
 // form, whose children are the dialog's widgets, made in a fixed order before the tree is
-// realized. The tables of names live in DialogWidgets.cpp and nowhere else.
+// realized. Every Athena widget of these trees has a window of its own; a child still unmanaged
+// when the tree is realized would have none, and the form's count of children would then match
+// no table, which the lookup reports instead of taking a wrong window. The tables of names live
+// in DialogWidgets.cpp and nowhere else.
 
 #include <X11/Xlib.h>
 
