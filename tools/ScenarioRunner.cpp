@@ -76,7 +76,13 @@ void ScenarioRunner::Run(Scenario const& scenario) {
         m_log << "[" << where << "] " << step.text << std::endl;
         try {
             if (!m_started && step.kind != StepKind::Start) Start({});
+            long began = NowMs();
             Play(step, scenario);
+            // The wait from the end of the step before: after a send or a click, the time the
+            // program took to show the window or to answer.
+            if (step.kind == StepKind::Expect || step.kind == StepKind::WaitWindow ||
+                step.kind == StepKind::WaitNoWindow)
+                m_log << "    after " << NowMs() - began << " ms" << std::endl;
         } catch (ScenarioError const& failure) {
             if (!step.tried)
                 throw ScenarioError(where + ": " + step.text + "\n  " + failure.what());

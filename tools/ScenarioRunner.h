@@ -1,7 +1,8 @@
 #pragma once
 // Plays a scenario against the program as the agent and the user would: documents over the
 // pipes through the agent simulator, windows, clicks, keys and screenshots through the X
-// server. Prints every step and every document exchanged. Used by `agentsim --scenario` and
+// server. Prints every step and every document exchanged, and how long each wait for a document
+// or a window took. Used by `agentsim --scenario` and
 // by end-to-end tests.
 
 #include <deque>

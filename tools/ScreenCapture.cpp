@@ -46,9 +46,3 @@ PixelGrid CaptureRectangle(Display* display, ScreenRect const& rectangle) {
     XDestroyImage(image);
     return grid;
 }
-
-PixelGrid CaptureScreen(Display* display) {
-    int screen = DefaultScreen(display);
-    return CaptureRectangle(
-        display, ScreenRect{0, 0, DisplayWidth(display, screen), DisplayHeight(display, screen)});
-}

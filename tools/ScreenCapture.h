@@ -10,6 +10,3 @@
 // cut to the screen. Throws ScenarioError if the rectangle lies off the screen, if the server
 // refuses the image, or if the root visual is not a true- or direct-colour one.
 PixelGrid CaptureRectangle(Display* display, ScreenRect const& rectangle);
-
-// Returns the whole screen.
-PixelGrid CaptureScreen(Display* display);
