@@ -10,10 +10,13 @@
 
 #include "files/FileErrors.h"
 #include "files/FileLocationFunctions.h"
+#include "localized/UFormat.h"
 #include "session/InitializationInfo.h"
 #include "session/SessionErrors.h"
 #include "session/SessionState.h"
+#include "testing/ScopedSettings.h"
 #include "testing/TemporaryDirectory.h"
+#include "testing/TestText.h"
 
 namespace {
 
@@ -161,4 +164,163 @@ TEST_F(ProcessInitializationInfoTest, SupportFileContentRoundTripsAsOneBase64Lin
     EXPECT_EQ(ReadText(Path("f")), bytes);
     FileTransfer const read(Location("f"), FileName("x"), FileName());
     EXPECT_EQ(read.m_content, sent.m_content);
+}
+
+namespace {
+
+// One support file of a row: its name, its sub-folder, and what it would answer if added.
+struct Offered {
+    char const* name;
+    char const* subFolder;
+    enum { brand, general } kind;
+};
+
+struct TranslationCase {
+    char const* what;
+    char const* lang;  // LANG, with LC_ALL and LC_CTYPE unset
+    bool useLocale;
+    std::vector<Offered> files;
+    char const* brandTaken;    // name of the brand file that counts, or ""
+    char const* generalTaken;  // name of the general file that counts, or ""
+    bool international;
+};
+
+// Every file of a row answers "<row> which" with its own name; brand files also answer
+// "<row> brand", general ones "<row> general". The context is process-wide and keeps what was
+// added before, so each row has keys of its own.
+std::string RowText(std::size_t row, Offered const& file) {
+    std::string const key = "row " + std::to_string(row);
+    return key + " which\t" + file.name + "\n" + key +
+           (file.kind == Offered::brand ? " brand\t" : " general\t") + file.name + "\n";
+}
+
+std::string Rendered(std::string const& key) {
+    return Str(UStringRef<UTF8>(MakeUString(UFormat(key.c_str()))));
+}
+
+}  // namespace
+
+TEST_F(ProcessInitializationInfoTest, TranslationFilesAreChosenByTheLocaleBrandFirst) {
+    auto const brand = Offered::brand;
+    auto const general = Offered::general;
+    std::vector<TranslationCase> const cases = {
+        {"without the locale only the plain brand file counts",
+         "fr_CA.UTF-8",
+         false,
+         {{"_brand.xlat", "", brand},
+          {"_brandfr.xlat", "", brand},
+          {"fr.xlat", "", general},
+          {"fr_CA.xlat", "", general}},
+         "_brand.xlat",
+         "",
+         false},
+        {"the full locale before the language, names in any case",
+         "fr_CA.UTF-8",
+         true,
+         {{"_brand.xlat", "", brand},
+          {"_brandfr.xlat", "", brand},
+          {"_BRANDfr_ca.xlat", "", brand},
+          {"fr.xlat", "", general},
+          {"FR_ca.XLAT", "", general}},
+         "_BRANDfr_ca.xlat",
+         "FR_ca.XLAT",
+         true},
+        {"the language when the full locale has no file; the plain brand file is then not added",
+         "fr_CA.UTF-8",
+         true,
+         {{"_brand.xlat", "", brand}, {"_brandfr.xlat", "", brand}, {"Fr.xlat", "", general}},
+         "_brandfr.xlat",
+         "Fr.xlat",
+         true},
+        {"a file in a sub-folder is never chosen",
+         "fr_CA.UTF-8",
+         true,
+         {{"_brand.xlat", "x", brand}, {"fr_CA.xlat", "x", general}, {"fr.xlat", "", general}},
+         "",
+         "fr.xlat",
+         true},
+        {"a locale name without a character set",
+         "de_DE",
+         true,
+         {{"_brand.xlat", "", brand}, {"de.xlat", "", general}, {"DE_de.xlat", "", general}},
+         "_brand.xlat",
+         "DE_de.xlat",
+         true},
+        {"the plain locale is not international and chooses nothing by name",
+         "C",
+         true,
+         {{"_brandC.xlat", "", brand}, {"C.xlat", "", general}},
+         "",
+         "",
+         false},
+        {"the default locale",
+         nullptr,
+         true,
+         {{"_brand.xlat", "", brand}, {"POSIX.xlat", "", general}, {"C.xlat", "", general}},
+         "_brand.xlat",
+         "",
+         false},
+    };
+    for (std::size_t row = 0; row < cases.size(); ++row) {
+        TranslationCase const& c = cases[row];
+        SCOPED_TRACE(c.what);
+        ScopedCTypeLocale const restoreLocale("C");
+        ScopedEnvironment const all("LC_ALL", nullptr), ctype("LC_CTYPE", nullptr),
+            lang("LANG", c.lang);
+        initialized = false;
+        international = false;
+        InitializationInfo info = Info("session" + std::to_string(row));
+        info.m_settings.m_useLocale = c.useLocale;
+        for (Offered const& file : c.files)
+            info.m_supportFiles.push_back(File(file.name, RowText(row, file), file.subFolder));
+        ProcessInitializationInfo(info);
+        EXPECT_TRUE(initialized);
+        EXPECT_EQ(international, c.international);
+        for (Offered const& file : c.files)
+            EXPECT_TRUE(Exists(Path("session" + std::to_string(row) + "/" + file.name)));
+
+        std::string const key = "row " + std::to_string(row);
+        std::string const brandTaken = *c.brandTaken ? c.brandTaken : key + " brand";
+        std::string const generalTaken = *c.generalTaken ? c.generalTaken : key + " general";
+        EXPECT_EQ(Rendered(key + " brand"), brandTaken);
+        EXPECT_EQ(Rendered(key + " general"), generalTaken);
+        std::string const asked = *c.generalTaken ? c.generalTaken
+                                  : *c.brandTaken ? c.brandTaken
+                                                  : key + " which";
+        EXPECT_EQ(Rendered(key + " which"), asked) << "the general file is asked first";
+    }
+}
+
+TEST_F(ProcessInitializationInfoTest, AnUnknownLocaleFailsTheSetUpAfterTheFilesAreWritten) {
+    ScopedCTypeLocale const restoreLocale("C");
+    ScopedEnvironment const all("LC_ALL", nullptr), ctype("LC_CTYPE", nullptr),
+        lang("LANG", "zz_ZZ.UTF-8");
+    InitializationInfo info = Info("session");
+    info.m_settings.m_useLocale = true;
+    info.m_settings.m_remindInterval = TimeInterval(7);
+    info.m_supportFiles.push_back(File("zz.xlat", "unknown locale\tnever\n"));
+    EXPECT_THROW(ProcessInitializationInfo(info), NoCharacterTypeLocale);
+    EXPECT_FALSE(initialized);
+    EXPECT_EQ(m_remindInterval, TimeInterval());
+    EXPECT_TRUE(Exists(Path("session/zz.xlat")));
+    EXPECT_EQ(Rendered("unknown locale"), "unknown locale");
+
+    info.m_settings.m_useLocale = false;
+    ProcessInitializationInfo(info);
+    EXPECT_TRUE(initialized);
+    EXPECT_EQ(m_remindInterval, TimeInterval(7));
+}
+
+// The agent may make the directory for the user: whoever owns it, it is used and emptied.
+TEST_F(ProcessInitializationInfoTest, ADirectoryOfAnotherOwnerIsUsedAllTheSame) {
+    MakeDirectory(Path("session"));
+    WriteText(Path("session/stale"), "x");
+    if (::chown(Path("session").c_str(), 65534, 65534) != 0)
+        GTEST_SKIP() << "only a privileged user can give the directory away";
+    ProcessInitializationInfo(Info("session"));
+    EXPECT_TRUE(initialized);
+    EXPECT_FALSE(Exists(Path("session/stale")));
+    struct stat record;
+    ASSERT_EQ(0, ::stat(Path("session").c_str(), &record));
+    EXPECT_EQ(record.st_uid, 65534u) << "the directory was replaced";
 }

@@ -18,3 +18,7 @@ class NoSuchActionRequestID : public DebuggableException {};
 // Thrown when the session directory named by the agent is a symbolic link: it is neither
 // emptied through the link nor used, and the process waits for a better first document.
 class SessionDirectoryIsLink : public DebuggableException {};
+
+// Thrown when the session is to follow the user's locale and the environment names one for the
+// character type that the system does not have.
+class NoCharacterTypeLocale : public DebuggableException {};

@@ -1,7 +1,7 @@
 #pragma once
 // Process-wide settings that a test changes for a scope and gets back afterwards: the LC_CTYPE
-// locale and the time zone (TZ). Both are global to the process, so a test that uses these must
-// not run beside another thread that reads them.
+// locale, the time zone (TZ) and other environment variables. Both are global to the process, so a
+// test that uses these must not run beside another thread that reads them.
 
 #include <stdlib.h>
 #include <time.h>
@@ -49,6 +49,34 @@ class ScopedTimeZone {
     ScopedTimeZone& operator=(ScopedTimeZone const&) = delete;
 
   private:
+    bool m_had;
+    std::string m_old;
+};
+
+// Sets an environment variable, or removes it when value is null, until the end of the scope;
+// then restores it or its absence.
+class ScopedEnvironment {
+  public:
+    ScopedEnvironment(char const* name, char const* value) : m_name(name) {
+        char const* old = ::getenv(name);
+        m_had = old != nullptr;
+        if (m_had) m_old = old;
+        if (value)
+            ::setenv(name, value, 1);
+        else
+            ::unsetenv(name);
+    }
+    ~ScopedEnvironment() {
+        if (m_had)
+            ::setenv(m_name.c_str(), m_old.c_str(), 1);
+        else
+            ::unsetenv(m_name.c_str());
+    }
+    ScopedEnvironment(ScopedEnvironment const&) = delete;
+    ScopedEnvironment& operator=(ScopedEnvironment const&) = delete;
+
+  private:
+    std::string m_name;
     bool m_had;
     std::string m_old;
 };
