@@ -12,6 +12,8 @@
 #include <cstring>
 #include <stdexcept>
 
+extern char** environ;
+
 namespace {
 
 long NowMs() {
@@ -45,12 +47,25 @@ std::vector<std::string> MergedEnvironment(std::vector<std::string> const& chang
 
 AgentSimulator::~AgentSimulator() {
     if (m_toProcess >= 0) close(m_toProcess);
+    if (m_errorsFromProcess >= 0) close(m_errorsFromProcess);
     if (m_fromProcess >= 0) close(m_fromProcess);
     if (m_pid > 0 && !m_end) {
         kill(m_pid, SIGKILL);
         int status;
         waitpid(m_pid, &status, 0);
     }
+}
+
+void AgentSimulator::SetEnvironment(std::string const& name, std::string const& value) {
+    m_environment.push_back(name + "=" + value);
+}
+
+void AgentSimulator::CaptureErrorOutput() {
+    m_captureErrors = true;
+}
+
+void AgentSimulator::MakeInputNonBlocking() {
+    m_nonBlockingInput = true;
 }
 
 void AgentSimulator::Launch(std::string const& program, std::vector<std::string> const& arguments,
@@ -64,14 +79,22 @@ void AgentSimulator::Launch(std::string const& program, std::vector<std::string>
     argv.push_back(const_cast<char*>(program.c_str()));
     for (auto const& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
-    std::vector<std::string> variables = MergedEnvironment(environment);
-    std::vector<char*> envp;
-    for (auto& variable : variables) envp.push_back(&variable[0]);
-    envp.push_back(nullptr);
     if (closeReadEnd) {
         close(fromProcess[0]);
         fromProcess[0] = -1;
     }
+    int errors[2] = {-1, -1};
+    if (m_captureErrors && pipe2(errors, O_CLOEXEC) != 0)
+        throw std::runtime_error("cannot make pipes");
+    if (m_nonBlockingInput) fcntl(toProcess[0], F_SETFL, fcntl(toProcess[0], F_GETFL) | O_NONBLOCK);
+    // The environment is put together before fork: the child only calls what is safe there. The
+    // settings made with SetEnvironment come first, so that the arguments of Launch win.
+    std::vector<std::string> changes = m_environment;
+    changes.insert(changes.end(), environment.begin(), environment.end());
+    std::vector<std::string> variables = MergedEnvironment(changes);
+    std::vector<char*> envp;
+    for (auto& variable : variables) envp.push_back(&variable[0]);
+    envp.push_back(nullptr);
 
     pid_t pid = fork();
     if (pid < 0) throw std::runtime_error("cannot fork");
@@ -80,6 +103,7 @@ void AgentSimulator::Launch(std::string const& program, std::vector<std::string>
         signal(SIGPIPE, SIG_DFL);
         dup2(toProcess[0], 0);
         dup2(fromProcess[1], 1);
+        if (errors[1] >= 0) dup2(errors[1], 2);
         execve(program.c_str(), argv.data(), envp.data());
         _exit(127);
     }
@@ -88,6 +112,8 @@ void AgentSimulator::Launch(std::string const& program, std::vector<std::string>
     close(fromProcess[1]);
     m_toProcess = toProcess[1];
     m_fromProcess = fromProcess[0];
+    if (errors[1] >= 0) close(errors[1]);
+    m_errorsFromProcess = errors[0];
 }
 
 bool AgentSimulator::SendRaw(std::string const& bytes) {
@@ -143,6 +169,37 @@ std::optional<std::string> AgentSimulator::ReceiveFrame(int timeoutMs) {
         m_received.append(buffer, static_cast<size_t>(n));
     }
     return frame;
+}
+
+std::string const& AgentSimulator::ErrorOutput(int timeoutMs) {
+    long deadline = NowMs() + timeoutMs;
+    while (m_errorsFromProcess >= 0) {
+        long left = deadline - NowMs();
+        pollfd fd{m_errorsFromProcess, POLLIN, 0};
+        int ready = poll(&fd, 1, left > 0 ? static_cast<int>(left) : 0);
+        if (ready < 0 && errno == EINTR) continue;
+        if (ready <= 0) break;
+        char buffer[65536];
+        ssize_t n = read(m_errorsFromProcess, buffer, sizeof buffer);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            close(m_errorsFromProcess);
+            m_errorsFromProcess = -1;
+            break;
+        }
+        m_errorOutput.append(buffer, static_cast<size_t>(n));
+    }
+    return m_errorOutput;
+}
+
+bool AgentSimulator::WaitForErrorOutput(std::string const& text, int timeoutMs) {
+    long deadline = NowMs() + timeoutMs;
+    for (;;) {
+        if (m_errorOutput.find(text) != std::string::npos) return true;
+        long left = deadline - NowMs();
+        if (left <= 0 || m_errorsFromProcess < 0) return false;
+        ErrorOutput(static_cast<int>(left < 100 ? left : 100));
+    }
 }
 
 void AgentSimulator::Reap(int status, struct rusage const& usage) {

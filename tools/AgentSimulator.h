@@ -25,6 +25,15 @@ class AgentSimulator {
     AgentSimulator(AgentSimulator const&) = delete;
     AgentSimulator& operator=(AgentSimulator const&) = delete;
 
+    // Settings for the next Launch. The process inherits this process's environment with the
+    // variable set to the value.
+    void SetEnvironment(std::string const& name, std::string const& value);
+    // The process's descriptor 2 becomes a pipe whose text ErrorOutput returns.
+    void CaptureErrorOutput();
+    // The pipe on the process's descriptor 0 is set O_NONBLOCK before the process starts, as
+    // a careless parent might leave it.
+    void MakeInputNonBlocking();
+
     // Starts program with the two pipes. With closeReadEnd the agent's reading end of the
     // process's descriptor 1 is closed at once, so the process's first write finds no reader.
     // environment holds NAME=VALUE entries that replace or add to the simulator's own.
@@ -48,6 +57,12 @@ class AgentSimulator {
     // then ReceiveFrame has returned every complete frame, since it returns those first.
     bool MayReceive() const { return m_fromProcess >= 0; }
 
+    // Returns all the process has written on descriptor 2 so far, after taking what arrives
+    // within timeoutMs. Empty unless CaptureErrorOutput was called before Launch.
+    std::string const& ErrorOutput(int timeoutMs = 0);
+    // Returns whether the error output holds the text within timeoutMs.
+    bool WaitForErrorOutput(std::string const& text, int timeoutMs);
+
     // Returns whether the process is still running.
     bool Running();
     // Returns how the process ended, waiting up to timeoutMs; nothing if it still runs.
@@ -60,8 +75,13 @@ class AgentSimulator {
     void Reap(int status, struct rusage const& usage);
 
     pid_t m_pid = -1;
-    int m_toProcess = -1;    // our writing end of the process's descriptor 0
-    int m_fromProcess = -1;  // our reading end of the process's descriptor 1
-    std::string m_received;  // bytes read but not yet returned as a frame
+    int m_toProcess = -1;                    // our writing end of the process's descriptor 0
+    int m_fromProcess = -1;                  // our reading end of the process's descriptor 1
+    std::string m_received;                  // bytes read but not yet returned as a frame
+    std::vector<std::string> m_environment;  // "NAME=value" added for the next Launch
+    bool m_captureErrors = false;
+    bool m_nonBlockingInput = false;
+    int m_errorsFromProcess = -1;  // our reading end of the process's descriptor 2
+    std::string m_errorOutput;
     std::optional<ProcessEnd> m_end;
 };

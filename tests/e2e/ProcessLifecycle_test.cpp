@@ -97,3 +97,19 @@ TEST(ProcessLifecycle, NoReaderOnDescriptorOneEndsItBySigpipeAtTheFirstWrite) {
     EXPECT_TRUE(end->signalled);
     EXPECT_EQ(end->status, SIGPIPE);
 }
+
+// A parent may leave the pipe non-blocking: reading must wait for data, not end the session.
+TEST(ProcessLifecycle, ANonBlockingDescriptorZeroStillGivesANormalSession) {
+    AgentSimulator agent;
+    agent.MakeInputNonBlocking();
+    agent.SetEnvironment("ZOLCLIENTUI_TRACE", "1");
+    agent.CaptureErrorOutput();
+    StartAndGreet(agent);
+    EXPECT_FALSE(agent.WaitForExit(2500).has_value()) << "an empty non-blocking pipe ended it";
+
+    agent.SendFrame("<ClientToUI><RemoveRequest><ID>31</ID></RemoveRequest></ClientToUI>");
+    EXPECT_TRUE(agent.WaitForErrorOutput("handled RemoveRequest 31", 5000)) << agent.ErrorOutput();
+    EXPECT_TRUE(agent.Running());
+    agent.CloseToProcess();
+    ExpectCleanExit(agent);
+}
