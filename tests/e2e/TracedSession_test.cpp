@@ -10,11 +10,15 @@
 #include "AgentSimulator.h"
 #include "testing/PipeFrames.h"
 #include "testing/TemporaryDirectory.h"
+#include "testing/XvfbServer.h"
 
 namespace {
 
 // Starts the program with the trace on and its standard error captured, and takes the greeting.
+// Once set up, the program opens its display: a private server of the test program's own.
 void LaunchTracedAndGreeted(AgentSimulator& agent) {
+    static XvfbServer server;
+    agent.SetEnvironment("DISPLAY", server.DisplayName());
     agent.SetEnvironment("ZOLCLIENTUI_TRACE", "1");
     agent.CaptureErrorOutput();
     agent.Launch(ZOLCLIENTUI_PATH);
