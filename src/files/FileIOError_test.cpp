@@ -15,15 +15,22 @@
 
 namespace {
 
-// Returns the mangled name of the class a call throws, or "" when it throws nothing.
+// What a call threw: the mangled name of the class ("" when it threw nothing), the path and
+// the error number the exception carries.
+struct Thrown {
+    std::string type;
+    std::string first;
+    int code = 0;
+};
+
 template <class F>
-std::string ThrownClass(F call) {
+Thrown ThrownBy(F call) {
     try {
         call();
     } catch (FileIOError const& e) {
-        return typeid(e).name();
+        return {typeid(e).name(), e.GetFirst(), e.GetCode()};
     }
-    return "";
+    return {};
 }
 
 template <class T>
@@ -104,6 +111,8 @@ std::vector<MappingRow> MappingTable() {
     };
 }
 
+// Each thrower maps the error number by its own column, and the exception names the path and
+// keeps the number; 0 is no error and throws nothing.
 TEST(FileIOError, MappingTableThroughEachThrower) {
     FileLocation const null = MakeFileLocation("/dev/null");
     FileReadingPath reading(null);
@@ -113,17 +122,24 @@ TEST(FileIOError, MappingTableThroughEachThrower) {
     UnixPlatform::FileReadingPath const& readingBase = reading;
     for (MappingRow const& row : MappingTable()) {
         SCOPED_TRACE(row.code);
-        EXPECT_EQ(row.general, ThrownClass([&] { ThrowFileError(null, row.code); }));
-        EXPECT_EQ(row.general, ThrownClass([&] { ThrowFileError(null.Platform(), row.code); }));
-        EXPECT_EQ(row.general, ThrownClass([&] { readingBase.ThrowError(row.code); }));
-        EXPECT_EQ(row.writingPath, ThrownClass([&] { writing.ThrowError(row.code); }));
-        EXPECT_EQ(row.writer, ThrownClass([&] { writer.ThrowError(row.code); }));
-        EXPECT_EQ(row.reader, ThrownClass([&] { reader.ThrowError(row.code); }));
-    }
-    try {
-        writer.ThrowError(ENOSPC);
-    } catch (FileIOError const& e) {
-        EXPECT_EQ("/dev/null", e.GetFirst());
-        EXPECT_EQ(ENOSPC, e.GetCode());
+        struct {
+            char const* thrower;
+            std::string const& expected;
+            Thrown thrown;
+        } const columns[] = {
+            {"ThrowFileError", row.general, ThrownBy([&] { ThrowFileError(null, row.code); })},
+            {"ThrowFileError on the platform location", row.general,
+             ThrownBy([&] { ThrowFileError(null.Platform(), row.code); })},
+            {"reading path", row.general, ThrownBy([&] { readingBase.ThrowError(row.code); })},
+            {"writing path", row.writingPath, ThrownBy([&] { writing.ThrowError(row.code); })},
+            {"writer", row.writer, ThrownBy([&] { writer.ThrowError(row.code); })},
+            {"reader", row.reader, ThrownBy([&] { reader.ThrowError(row.code); })},
+        };
+        for (auto const& column : columns) {
+            SCOPED_TRACE(column.thrower);
+            EXPECT_EQ(column.thrown.type, column.expected);
+            EXPECT_EQ(column.thrown.first, row.code == 0 ? "" : "/dev/null");
+            EXPECT_EQ(column.thrown.code, row.code);
+        }
     }
 }

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <time.h>
+
 #include <random>
+#include <string>
 
 namespace {
 
@@ -67,23 +70,6 @@ TEST(DateRecord, KnownDaysAndLeapYears) {
     }
 }
 
-TEST(DateRecord, LeapDayFoldsAndComesBack) {
-    DateRecord leapDay(29, February, 2000);
-    EXPECT_EQ(leapDay.DayOfYear(), 59);
-    DateRecord set(1, January, 2000);
-    set.SetDayOfYear(59);
-    EXPECT_EQ(set, leapDay);
-    EXPECT_EQ(MonthOf(59, false), March);
-    EXPECT_EQ(MonthOf(59, true), February);
-    EXPECT_EQ(MonthOf(58, true), February);
-    EXPECT_EQ(MonthOf(365, true), December);
-    EXPECT_EQ(MonthOf(400, false), December);
-    EXPECT_EQ(DaysBefore(March, true), 60);
-    EXPECT_EQ(DaysBefore(February, true), 31);
-    EXPECT_EQ(DaysIn(February, true), 29);
-    EXPECT_EQ(DaysIn(February, false), 28);
-}
-
 TEST(DateRecord, ValidityTable) {
     struct {
         DateRecord date;
@@ -126,9 +112,52 @@ TEST(DateRecord, MovingAndDifferencesAgreeWithOrder) {
     }
 }
 
-TEST(DateRecord, NamesOfMonthsAndDays) {
-    EXPECT_STREQ(MonthToText(static_cast<Month>(0)), "");
-    EXPECT_STREQ(FullNameOfMonth(September), "September");
-    EXPECT_STREQ(MonthToTwoDigits(December), "12");
-    EXPECT_STREQ(FullNameOfDayOfWeek(Wednesday), "Wednesday");
+// The C library's calendar is the reference: every day of 1900 to 2100 (leap years of every
+// kind, both century rules) must agree in month, day of the year, day of the week, absolute day
+// and the names and digits of the month and day.
+TEST(DateRecord, EveryDayAgreesWithTheCLibraryCalendar) {
+    unsigned long const epochDay = DateRecord(1, January, 1970).AbsoluteDay();
+    tm first = {};
+    first.tm_year = 0;
+    first.tm_mday = 1;
+    time_t const start = timegm(&first);
+    first.tm_year = 201;
+    time_t const stop = timegm(&first);
+    char text[32];
+    for (time_t t = start; t < stop; t += 86400) {
+        tm parts;
+        ASSERT_NE(gmtime_r(&t, &parts), nullptr);
+        unsigned long const year = static_cast<unsigned long>(parts.tm_year) + 1900;
+        bool const leap = DateRecord::IsLeapYear(year);
+        Month const month = static_cast<Month>(parts.tm_mon + 1);
+        DateRecord const date(static_cast<std::uint8_t>(parts.tm_mday), month,
+                              static_cast<std::uint32_t>(year));
+        SCOPED_TRACE(std::to_string(year) + "-" + std::to_string(month) + "-" +
+                     std::to_string(parts.tm_mday));
+        ASSERT_EQ(MonthOf(static_cast<unsigned short>(parts.tm_yday), leap), month);
+        ASSERT_EQ(date.DayOfYear(), parts.tm_yday);
+        ASSERT_EQ(DaysBefore(month, leap) + parts.tm_mday - 1, parts.tm_yday);
+        ASSERT_LE(parts.tm_mday, DaysIn(month, leap));
+        tm tomorrow;
+        time_t const next = t + 86400;
+        gmtime_r(&next, &tomorrow);
+        ASSERT_EQ(tomorrow.tm_mon != parts.tm_mon, parts.tm_mday == DaysIn(month, leap));
+        DateRecord set(1, January, static_cast<std::uint32_t>(year));
+        set.SetDayOfYear(static_cast<unsigned short>(parts.tm_yday));
+        ASSERT_EQ(set, date);
+        ASSERT_EQ(date.DayOfWeek(), static_cast<DayOfWeek>(parts.tm_wday));
+        ASSERT_EQ(static_cast<long>(date.AbsoluteDay() - epochDay), t / 86400);
+        // The process runs in the C locale, whose names are the English ones.
+        strftime(text, sizeof text, "%b %B %m %a %A", &parts);
+        ASSERT_EQ(std::string(MonthToText(month)) + " " + FullNameOfMonth(month) + " " +
+                      MonthToTwoDigits(month) + " " + DayOfWeekToText(date.DayOfWeek()) + " " +
+                      FullNameOfDayOfWeek(date.DayOfWeek()),
+                  text);
+    }
+    for (unsigned notAMonth : {0u, 13u}) {
+        EXPECT_STREQ(MonthToText(static_cast<Month>(notAMonth)), "");
+        EXPECT_STREQ(FullNameOfMonth(static_cast<Month>(notAMonth)), "");
+        EXPECT_EQ(DaysIn(static_cast<Month>(notAMonth), true), 0);
+    }
+    EXPECT_STREQ(DayOfWeekToText(static_cast<DayOfWeek>(7)), "");
 }
