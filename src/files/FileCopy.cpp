@@ -18,12 +18,6 @@ namespace {
 
 std::size_t const copyBufferSize = 65536;
 
-UnixPlatform::UnixFileInfo Look(FileLocation const& path) {
-    UnixPlatform::UnixFileInfo info;
-    info.Set(path.Platform());
-    return info;
-}
-
 void CopyBytes(FileLocation const& from, FileLocation const& to) {
     std::unique_ptr<unsigned char[]> const buffer(new unsigned char[copyBufferSize]);
     UnixPlatform::FileReadingPath in;
@@ -44,17 +38,17 @@ void CopyBytes(FileLocation const& from, FileLocation const& to) {
 namespace UnixPlatform {
 
 void CopyFile(::FileLocation const& from, ::FileLocation const& to) {
-    if (!Look(from).IsFile()) {
+    if (!UnixPlatform::Look(from).IsFile()) {
         throw FileNotFoundError(from, 0);
     }
-    if (Look(to).Exists()) {
+    if (UnixPlatform::Look(to).Exists()) {
         throw FileExistsError(to.LogString(), 0);
     }
     CopyBytes(from, to);
 }
 
 void ForceCopyFile(::FileLocation const& from, ::FileLocation const& to) {
-    if (!Look(from).IsFile()) {
+    if (!UnixPlatform::Look(from).IsFile()) {
         throw FileNotFoundError(from, 0);
     }
     UnixPlatform::ForceNonexistence(to);
@@ -76,7 +70,7 @@ void ForceCopyFile(FileLocation const& from, FileLocation const& to) {
 }
 
 void CopyDirectoryContents(FileLocation const& from, FileLocation const& to) {
-    UnixPlatform::UnixFileInfo const source = Look(from);
+    UnixPlatform::UnixFileInfo const source = UnixPlatform::Look(from);
     if (!source.Exists()) {
         throw InvalidStats(from.LogString(), 0);
     }

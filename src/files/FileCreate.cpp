@@ -11,12 +11,6 @@
 
 namespace {
 
-UnixPlatform::UnixFileInfo Look(FileLocation const& path) {
-    UnixPlatform::UnixFileInfo info;
-    info.Set(path.Platform());
-    return info;
-}
-
 void MakeDirectory(FileLocation const& path, DirectoryCreatingInfo const& info) {
     if (::mkdir(path.Text(), info.mode) != 0) {
         ThrowFileError(path, errno);
@@ -31,7 +25,7 @@ void CreateDirectory(::FileLocation const& path, DirectoryCreatingInfo const& in
     if (path.Empty()) {
         throw DirectoryCreateFailed(0);
     }
-    if (Look(path).Exists()) {
+    if (UnixPlatform::Look(path).Exists()) {
         throw DirectoryFoundError(path.LogString(), 0);
     }
     MakeDirectory(path, info);
@@ -39,7 +33,7 @@ void CreateDirectory(::FileLocation const& path, DirectoryCreatingInfo const& in
 
 void ForceDirectoryExistence(::FileLocation const& path, DirectoryCreatingInfo const& info) {
     path.RequireNonEmpty();
-    UnixFileInfo const existing = Look(path);
+    UnixFileInfo const existing = UnixPlatform::Look(path);
     if (existing.IsDirectory()) {
         return;
     }
@@ -53,7 +47,7 @@ void CreateFile(::FileLocation const& path, FileCreatingInfo const& info) {
     if (path.Empty()) {
         throw FileCreateFailed(0);
     }
-    if (Look(path).Exists()) {
+    if (UnixPlatform::Look(path).Exists()) {
         throw FileFoundError(path, 0);
     }
     std::FILE* file = ::fopen64(path.Text(), "w");
@@ -100,7 +94,7 @@ void CreateDirectoryTree(FileLocation const& path) {
 
 void CreateDirectoryTree(FileLocation const& path, DirectoryCreatingInfo const& info) {
     path.RequireNonEmpty();
-    UnixPlatform::UnixFileInfo const existing = Look(path);
+    UnixPlatform::UnixFileInfo const existing = UnixPlatform::Look(path);
     if (existing.IsDirectory()) {
         return;
     }

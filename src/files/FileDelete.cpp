@@ -9,16 +9,6 @@
 #include "files/ThrowFileError.h"
 #include "files/UnixFileInfo.h"
 
-namespace {
-
-UnixPlatform::UnixFileInfo Look(FileLocation const& path) {
-    UnixPlatform::UnixFileInfo info;
-    info.Set(path.Platform());
-    return info;
-}
-
-}  // namespace
-
 namespace UnixPlatform {
 
 void DeleteFile(::FileLocation const& path) {
@@ -31,7 +21,7 @@ void DeleteFile(::FileLocation const& path) {
 }
 
 void DeleteDirectory(::FileLocation const& path) {
-    if (!Look(path).IsDirectory()) {
+    if (!UnixPlatform::Look(path).IsDirectory()) {
         throw DirectoryNotFoundError(path.LogString(), 0);
     }
     if (::rmdir(path.Text()) != 0) {
@@ -40,7 +30,7 @@ void DeleteDirectory(::FileLocation const& path) {
 }
 
 void ForceNonexistence(::FileLocation const& path) {
-    UnixFileInfo const info = Look(path);
+    UnixFileInfo const info = UnixPlatform::Look(path);
     switch (info.GetStatus()) {
         case FileStats::absent:
         case FileStats::dangling:
@@ -60,7 +50,7 @@ void ForceNonexistence(::FileLocation const& path) {
 }
 
 void DeleteContents(::FileLocation const& path) {
-    if (Look(path).IsLink()) {
+    if (UnixPlatform::Look(path).IsLink()) {
         throw DirectoryNotFoundError(path.LogString(), 0);
     }
     // With tryToGet the loop shows dangling links too, so that they go with the rest.
@@ -80,7 +70,7 @@ void DeleteContents(::FileLocation const& path) {
 
 void DeleteRecursive(::FileLocation const& path) {
     path.RequireNonEmpty();
-    UnixFileInfo const info = Look(path);
+    UnixFileInfo const info = UnixPlatform::Look(path);
     if (!info.Exists()) {
         throw DirectoryNotFoundError(path.LogString(), 0);
     }
@@ -121,14 +111,14 @@ void DeleteRecursive(FileLocation const& path) {
 
 void ForceDeleteRecursive(FileLocation const& path) {
     path.RequireNonEmpty();
-    if (Look(path).Exists()) {
+    if (UnixPlatform::Look(path).Exists()) {
         UnixPlatform::DeleteRecursive(path);
     }
 }
 
 void ForceDeleteContents(FileLocation const& path) {
     path.RequireNonEmpty();
-    if (Look(path).Exists()) {
+    if (UnixPlatform::Look(path).Exists()) {
         UnixPlatform::DeleteContents(path);
     }
 }

@@ -8,26 +8,16 @@
 #include "files/FileErrors.h"
 #include "files/UnixFileInfo.h"
 
-namespace {
-
-UnixPlatform::UnixFileInfo Look(FileLocation const& path) {
-    UnixPlatform::UnixFileInfo info;
-    info.Set(path.Platform());
-    return info;
-}
-
-}  // namespace
-
 namespace UnixPlatform {
 
 void MoveFile(::FileLocation const& from, ::FileLocation const& to) {
     from.RequireNonEmpty();
     to.RequireNonEmpty();
-    UnixFileInfo const source = Look(from);
+    UnixFileInfo const source = UnixPlatform::Look(from);
     if (!source.Exists()) {
         throw FileNotFoundError(from, 0);
     }
-    if (Look(to).Exists()) {
+    if (UnixPlatform::Look(to).Exists()) {
         throw FileFoundError(to, 0);
     }
     if (std::rename(from.Text(), to.Text()) == 0) {
@@ -48,11 +38,11 @@ void MoveFile(::FileLocation const& from, ::FileLocation const& to) {
 }
 
 void ForceMoveFile(::FileLocation const& from, ::FileLocation const& to) {
-    UnixFileInfo const source = Look(from);
+    UnixFileInfo const source = UnixPlatform::Look(from);
     if (!source.Exists()) {
         throw FileNotFoundError(from, 0);
     }
-    UnixFileInfo const target = Look(to);
+    UnixFileInfo const target = UnixPlatform::Look(to);
     if (!target.Exists()) {
         UnixPlatform::MoveFile(from, to);
         return;

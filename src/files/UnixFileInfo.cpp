@@ -21,6 +21,12 @@ int UnixFileInfo::Set(FileLocation const& location) {
     return get(location.Text());
 }
 
+UnixFileInfo Look(::FileLocation const& location) {
+    UnixFileInfo info;
+    info.Set(location.Platform());
+    return info;
+}
+
 bool UnixFileInfo::IsFile() const {
     return (status == plain || status == link) && S_ISREG(target.st_mode);
 }

@@ -13,6 +13,8 @@ long long InstantToFileTime(Instant const& time);
 // Returns the instant of a file time in seconds.
 Instant FileTimeToInstant(long long const& seconds);
 
+class FileLocation;
+
 namespace UnixPlatform {
 
 class FileLocation;
@@ -42,5 +44,8 @@ class UnixFileInfo : public FileStats {
     bool operator==(UnixFileInfo const& other) const;
     bool operator!=(UnixFileInfo const& other) const { return !(*this == other); }
 };
+
+// Returns what stands at the location now; a location that cannot be looked at reads as absent.
+UnixFileInfo Look(::FileLocation const& location);
 
 }  // namespace UnixPlatform
