@@ -10,18 +10,52 @@ using P3 = Production3<L, S>;
 using P4 = Production4<L, S>;
 using TimeGrammar = L::TimeGrammar;
 
-// The productions of each grammar are function-level statics, linked in order of declaration.
-// Each builder runs once, under the guard of the static that holds its result.
+// The productions of each grammar are function-level statics, linked in order of declaration
+// (members in the order written below); each grammar is linked once, under the guard of its
+// static, and only read afterwards.
 
-TimeGrammar const& LinkTheGrammar() {
+// "[Day,] D[D] Mon YY[YY]", reduced to the given part: the full reading goes on to a time, the
+// date grammar ends there.
+struct DateProductions {
+    P2 const monthAndFourDigits;
+    P2 const monthAndThreeDigits;
+    P2 const monthAndTwoDigits;
+    P2 const oneDigitDay;
+    P2 const twoDigitDay;
+    P3 const withDayName;
+    P1 const withoutDayName;
+
+    DateProductions(TimeGrammar& g, L::PartOfSpeech result)
+        : monthAndFourDigits(g, L::MonthName, L::FourDigits, nullptr, L::MonthAndYear),
+          monthAndThreeDigits(g, L::MonthName, L::ThreeDigits, nullptr, L::MonthAndYear),
+          monthAndTwoDigits(g, L::MonthName, L::TwoDigits, &S::Add1900, L::MonthAndYear),
+          oneDigitDay(g, L::OneDigit, L::MonthAndYear, &S::BuildDate, L::DatePhrase),
+          twoDigitDay(g, L::TwoDigits, L::MonthAndYear, &S::BuildDate, L::DatePhrase),
+          withDayName(g, L::DayName, L::Comma, L::DatePhrase, &S::CheckDay, result),
+          withoutDayName(g, L::DatePhrase, nullptr, result) {}
+};
+
+// "H[H]:MM[:SS]", reduced to the given part: the zoned grammar goes on to a zone.
+struct TimeOfDayProductions {
+    P3 const oneDigitHour;
+    P3 const twoDigitHour;
+    P3 const withSeconds;
+    P1 const withoutSeconds;
+
+    TimeOfDayProductions(TimeGrammar& g, L::PartOfSpeech result)
+        : oneDigitHour(g, L::OneDigit, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes),
+          twoDigitHour(g, L::TwoDigits, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes),
+          withSeconds(g, L::HoursAndMinutes, L::Colon, L::TwoDigits, &S::BuildTimeWithSeconds,
+                      result),
+          withoutSeconds(g, L::HoursAndMinutes, &S::BuildTimeWithNoSeconds, result) {}
+};
+
+}  // namespace
+
+TimeGrammar const& TimeLanguage::TheGrammar() {
     static TimeGrammar g;
-    static P2 const p1(g, L::MonthName, L::FourDigits, nullptr, L::MonthAndYear);
-    static P2 const p2(g, L::MonthName, L::ThreeDigits, nullptr, L::MonthAndYear);
-    static P2 const p3(g, L::MonthName, L::TwoDigits, &S::Add1900, L::MonthAndYear);
-    static P2 const p4(g, L::OneDigit, L::MonthAndYear, &S::BuildDate, L::DatePhrase);
-    static P2 const p5(g, L::TwoDigits, L::MonthAndYear, &S::BuildDate, L::DatePhrase);
-    static P3 const p6(g, L::DayName, L::Comma, L::DatePhrase, &S::CheckDay, L::DayAndDate);
-    static P1 const p7(g, L::DatePhrase, nullptr, L::DayAndDate);
+    static DateProductions const date(g, L::DayAndDate);
+    // The full reading takes the hour in two digits only.
     static P3 const p8(g, L::TwoDigits, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes);
     static P3 const p9(g, L::HoursAndMinutes, L::Colon, L::TwoDigits, &S::BuildTimeWithSeconds,
                        L::TimePhrase);
@@ -37,35 +71,21 @@ TimeGrammar const& LinkTheGrammar() {
     return g;
 }
 
-TimeGrammar const& LinkDateGrammar() {
+TimeGrammar const& TimeLanguage::DateGrammar() {
     static TimeGrammar g;
-    static P2 const p1(g, L::MonthName, L::FourDigits, nullptr, L::MonthAndYear);
-    static P2 const p2(g, L::MonthName, L::ThreeDigits, nullptr, L::MonthAndYear);
-    static P2 const p3(g, L::MonthName, L::TwoDigits, &S::Add1900, L::MonthAndYear);
-    static P2 const p4(g, L::OneDigit, L::MonthAndYear, &S::BuildDate, L::DatePhrase);
-    static P2 const p5(g, L::TwoDigits, L::MonthAndYear, &S::BuildDate, L::DatePhrase);
-    static P3 const p6(g, L::DayName, L::Comma, L::DatePhrase, &S::CheckDay, L::EndOfPhrase);
-    static P1 const p7(g, L::DatePhrase, nullptr, L::EndOfPhrase);
+    static DateProductions const date(g, L::EndOfPhrase);
     return g;
 }
 
-TimeGrammar const& LinkTimeOfDayGrammar() {
+TimeGrammar const& TimeLanguage::TimeOfDayGrammar() {
     static TimeGrammar g;
-    static P3 const p1(g, L::OneDigit, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes);
-    static P3 const p2(g, L::TwoDigits, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes);
-    static P3 const p3(g, L::HoursAndMinutes, L::Colon, L::TwoDigits, &S::BuildTimeWithSeconds,
-                       L::EndOfPhrase);
-    static P1 const p4(g, L::HoursAndMinutes, &S::BuildTimeWithNoSeconds, L::EndOfPhrase);
+    static TimeOfDayProductions const time(g, L::EndOfPhrase);
     return g;
 }
 
-TimeGrammar const& LinkZonedTimeOfDayGrammar() {
+TimeGrammar const& TimeLanguage::ZonedTimeOfDayGrammar() {
     static TimeGrammar g;
-    static P3 const p1(g, L::OneDigit, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes);
-    static P3 const p2(g, L::TwoDigits, L::Colon, L::TwoDigits, nullptr, L::HoursAndMinutes);
-    static P3 const p3(g, L::HoursAndMinutes, L::Colon, L::TwoDigits, &S::BuildTimeWithSeconds,
-                       L::TimePhrase);
-    static P1 const p4(g, L::HoursAndMinutes, &S::BuildTimeWithNoSeconds, L::TimePhrase);
+    static TimeOfDayProductions const time(g, L::TimePhrase);
     static P3 const p5(g, L::TimePhrase, L::Plus, L::FourDigits, &S::MakePositiveZone,
                        L::EndOfPhrase);
     static P3 const p6(g, L::TimePhrase, L::Minus, L::FourDigits, &S::MakeNegativeZone,
@@ -74,26 +94,4 @@ TimeGrammar const& LinkZonedTimeOfDayGrammar() {
     static P2 const p8(g, L::TimePhrase, L::MilitaryZone, nullptr, L::EndOfPhrase);
     static P1 const p9(g, L::TimePhrase, nullptr, L::EndOfPhrase);
     return g;
-}
-
-}  // namespace
-
-TimeGrammar const& TimeLanguage::TheGrammar() {
-    static TimeGrammar const& grammar = LinkTheGrammar();
-    return grammar;
-}
-
-TimeGrammar const& TimeLanguage::DateGrammar() {
-    static TimeGrammar const& grammar = LinkDateGrammar();
-    return grammar;
-}
-
-TimeGrammar const& TimeLanguage::TimeOfDayGrammar() {
-    static TimeGrammar const& grammar = LinkTimeOfDayGrammar();
-    return grammar;
-}
-
-TimeGrammar const& TimeLanguage::ZonedTimeOfDayGrammar() {
-    static TimeGrammar const& grammar = LinkZonedTimeOfDayGrammar();
-    return grammar;
 }

@@ -36,13 +36,6 @@ int TryReadUnsigned32(ConstData text, unsigned long long base, unsigned long& re
     return status;
 }
 
-template <class T>
-T Checked(int status, T value) {
-    if (status == notANumeral) throw NotANumeral();
-    if (status == tooLarge) throw NumeralTooLarge();
-    return value;
-}
-
 // Writes the digits of magnitude backwards, then the sign, and checks the capacity.
 template <std::size_t Capacity>
 FixedCapacityText<Capacity> MakeNumeral(unsigned long long magnitude, bool negative, unsigned base,
@@ -67,6 +60,22 @@ FixedCapacityText<Capacity> MakeNumeral(unsigned long long magnitude, bool negat
 unsigned long long Magnitude(long long value) {
     return value < 0 ? 0ULL - static_cast<unsigned long long>(value)
                      : static_cast<unsigned long long>(value);
+}
+
+// The Read... forms over their Try... form: one throws on failure, one gives the default.
+template <class T, int (*TryRead)(ConstData, T&)>
+T ReadOrThrow(ConstData text) {
+    T value = 0;
+    int const status = TryRead(text, value);
+    if (status == notANumeral) throw NotANumeral();
+    if (status == tooLarge) throw NumeralTooLarge();
+    return value;
+}
+
+template <class T, int (*TryRead)(ConstData, T&)>
+T ReadOrDefault(ConstData text, T defaultValue) {
+    T value = 0;
+    return TryRead(text, value) == success ? value : defaultValue;
 }
 
 }  // namespace
@@ -115,60 +124,44 @@ int TryReadAsciiHexNumeral(ConstData text, unsigned long& result) {
 }
 
 unsigned long ReadAsciiDecimalNumeral(ConstData text) {
-    unsigned long value = 0;
-    int status = TryReadAsciiDecimalNumeral(text, value);
-    return Checked(status, value);
+    return ReadOrThrow<unsigned long, TryReadAsciiDecimalNumeral>(text);
 }
 
 unsigned long long ReadAsciiDecimalNumeral64(ConstData text) {
-    unsigned long long value = 0;
-    int status = TryReadAsciiDecimalNumeral(text, value);
-    return Checked(status, value);
+    return ReadOrThrow<unsigned long long, TryReadAsciiDecimalNumeral>(text);
 }
 
 long ReadAsciiSignedDecimalNumeral(ConstData text) {
-    long value = 0;
-    int status = TryReadAsciiDecimalNumeral(text, value);
-    return Checked(status, value);
+    return ReadOrThrow<long, TryReadAsciiDecimalNumeral>(text);
 }
 
 long long ReadAsciiSignedDecimalNumeral64(ConstData text) {
-    long long value = 0;
-    int status = TryReadAsciiDecimalNumeral(text, value);
-    return Checked(status, value);
+    return ReadOrThrow<long long, TryReadAsciiDecimalNumeral>(text);
 }
 
 unsigned long ReadAsciiHexNumeral(ConstData text) {
-    unsigned long value = 0;
-    int status = TryReadAsciiHexNumeral(text, value);
-    return Checked(status, value);
+    return ReadOrThrow<unsigned long, TryReadAsciiHexNumeral>(text);
 }
 
 unsigned long long ReadAsciiHexNumeral64(ConstData text) {
-    unsigned long long value = 0;
-    int status = TryReadAsciiHexNumeral(text, value);
-    return Checked(status, value);
+    return ReadOrThrow<unsigned long long, TryReadAsciiHexNumeral>(text);
 }
 
 unsigned long ReadAsciiDecimalNumeral32WithDefault(ConstData text, unsigned long defaultValue) {
-    unsigned long value = 0;
-    return TryReadAsciiDecimalNumeral(text, value) == success ? value : defaultValue;
+    return ReadOrDefault<unsigned long, TryReadAsciiDecimalNumeral>(text, defaultValue);
 }
 
 unsigned long long ReadAsciiDecimalNumeral64WithDefault(ConstData text,
                                                         unsigned long long defaultValue) {
-    unsigned long long value = 0;
-    return TryReadAsciiDecimalNumeral(text, value) == success ? value : defaultValue;
+    return ReadOrDefault<unsigned long long, TryReadAsciiDecimalNumeral>(text, defaultValue);
 }
 
 long ReadAsciiSignedDecimalNumeral32WithDefault(ConstData text, long defaultValue) {
-    long value = 0;
-    return TryReadAsciiDecimalNumeral(text, value) == success ? value : defaultValue;
+    return ReadOrDefault<long, TryReadAsciiDecimalNumeral>(text, defaultValue);
 }
 
 long long ReadAsciiSignedDecimalNumeral64WithDefault(ConstData text, long long defaultValue) {
-    long long value = 0;
-    return TryReadAsciiDecimalNumeral(text, value) == success ? value : defaultValue;
+    return ReadOrDefault<long long, TryReadAsciiDecimalNumeral>(text, defaultValue);
 }
 
 FixedCapacityText<10> MakeAsciiDecimalNumeral(unsigned long value, unsigned long minimumDigits) {
