@@ -11,7 +11,6 @@ class FiniteStackBase {
     // The array must outlive the stack; no element is constructed or destroyed here.
     FiniteStackBase(Data storage, std::size_t elementSize)
         : m_base(storage.begin),
-          m_limit(storage.end),
           m_elementSize(elementSize),
           m_count(0),
           m_cursor(storage.end) {}
@@ -37,7 +36,6 @@ class FiniteStackBase {
 
   private:
     unsigned char* m_base;
-    unsigned char* m_limit;
     std::size_t m_elementSize;
     std::size_t m_count;
     unsigned char* m_cursor;
