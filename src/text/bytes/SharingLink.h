@@ -3,6 +3,8 @@
 // so that copies may be made and dropped in different threads. The shared value itself is not
 // guarded.
 
+#include <utility>
+
 #include "threads/Mutex.h"
 
 // One holder's share of a control block with a count and a Mutex.
@@ -12,10 +14,18 @@ class SharingLink {
     SharingLink();
     // Takes the lock and adds one holder.
     SharingLink(SharingLink const& other);
+    // Takes over the other's share without touching the count; the other is left empty.
+    SharingLink(SharingLink&& other) noexcept : m_block(other.m_block) { other.m_block = nullptr; }
     // Takes the lock and subtracts one; the holder that brings the count to zero frees the block.
     ~SharingLink();
     // Copies, swaps, and lets the temporary go.
     SharingLink& operator=(SharingLink const& other);
+    // Takes over the other's share, leaving it empty; this holder's old share is dropped.
+    SharingLink& operator=(SharingLink&& other) noexcept {
+        SharingLink taken(std::move(other));
+        swap(taken);
+        return *this;
+    }
 
     // Returns whether this is the only holder; takes the lock.
     bool Alone() const;

@@ -29,10 +29,23 @@ struct SharedUString {
     // Shares the other's buffer.
     SharedUString(SharedUString const& other)
         : begin(other.begin), end(other.end), link(other.link) {}
+    // Takes over the other's buffer and share without touching the count; the other is left
+    // null, with an empty link.
+    SharedUString(SharedUString&& other) noexcept
+        : begin(other.begin), end(other.end), link(std::move(other.link)) {
+        other.begin = other.end = nullptr;
+    }
     // Shares the other's buffer; the old one is freed if this was its last holder.
     SharedUString& operator=(SharedUString const& other) {
         SharedUString copy(other);
         swap(copy);
+        return *this;
+    }
+    // Takes over the other's buffer and share, leaving it null; the old buffer is freed if this
+    // was its last holder.
+    SharedUString& operator=(SharedUString&& other) noexcept {
+        SharedUString taken(std::move(other));
+        swap(taken);
         return *this;
     }
     // Takes over the buffer of source, leaving it null; the old buffer is freed if this was its

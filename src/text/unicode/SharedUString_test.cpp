@@ -34,6 +34,35 @@ TEST(SharedUString, CopiesShareAndTheLastHolderFrees) {
     EXPECT_TRUE(copy == c);
 }
 
+// A move hands the buffer and the share over: the source is left null, and no holder is added
+// or dropped on the way (the witness is alone again exactly when the last mover is gone).
+TEST(SharedUString, MovingHandsTheBufferOverAndLeavesTheSourceNull) {
+    SharedUString<UTF8> source = Shared("moved text");
+    SharedUString<UTF8> const witness(source);
+    UTF8::Unit const* const buffer = source.begin;
+    SharedUString<UTF8> moved(std::move(source));
+    EXPECT_EQ(nullptr, source.begin);
+    EXPECT_EQ(nullptr, source.end);
+    EXPECT_TRUE(source.Empty());
+    EXPECT_FALSE(UStringRef<UTF8>(source).nullTerminated);
+    EXPECT_EQ(buffer, moved.begin);
+    EXPECT_EQ("moved text", Str(moved));
+    EXPECT_FALSE(witness.link.Alone());
+    {
+        SharedUString<UTF8> assigned = Shared("text it held before");
+        assigned = std::move(moved);
+        EXPECT_EQ(nullptr, moved.begin);
+        EXPECT_EQ(buffer, assigned.begin);
+        EXPECT_FALSE(witness.link.Alone());
+    }
+    EXPECT_TRUE(witness.link.Alone());
+    // A moved-from string takes a new value and copies as null.
+    SharedUString<UTF8> const copyOfMoved(moved);
+    EXPECT_EQ(nullptr, copyOfMoved.begin);
+    source = Shared("again");
+    EXPECT_EQ("again", Str(source));
+}
+
 TEST(SharedUString, CopiedAndDroppedAcrossThreads) {
     // Threads copy and drop one shared text, then the last copies are dropped in all threads at
     // once: the buffer must be freed exactly once whoever is last (a double free or a leak
