@@ -10,10 +10,7 @@ class FiniteStackBase {
   public:
     // The array must outlive the stack; no element is constructed or destroyed here.
     FiniteStackBase(Data storage, std::size_t elementSize)
-        : m_base(storage.begin),
-          m_elementSize(elementSize),
-          m_count(0),
-          m_cursor(storage.end) {}
+        : m_base(storage.begin), m_elementSize(elementSize), m_count(0), m_cursor(storage.end) {}
 
     // Returns the storage of a new top element. Throws StackFull when there is no room.
     void* Allocate() {
