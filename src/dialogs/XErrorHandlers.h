@@ -19,7 +19,7 @@ int X_IOErrorHandler(Display* display);
 
 // Never returns: ends the process with status -1 and the reason "XtError: " and the message,
 // cut so that the whole fits 2048 bytes with its terminator. For XtAppSetErrorHandler.
-void Xt_ErrorHandler(String message);
+[[noreturn]] void Xt_ErrorHandler(String message);
 
 // A warning named "noFont" is fatal: reports it to the agent as ClientUIErrorMessage with code 1
 // and the text "noFont", or "noFont (<class>)" when the class is given, waits for the report
