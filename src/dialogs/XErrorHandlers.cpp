@@ -27,7 +27,7 @@ int X_IOErrorHandler(Display*) {
     ExitCleanup(0, "CLOSED");
 }
 
-[[noreturn]] void Xt_ErrorHandler(String message) {
+void Xt_ErrorHandler(String message) {
     char reason[2048];
     std::snprintf(reason, sizeof reason, "XtError: %s", message ? message : "");
     ExitCleanup(-1, reason);

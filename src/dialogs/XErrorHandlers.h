@@ -18,8 +18,9 @@ int X_ErrorHandler(Display* display, XErrorEvent* event);
 int X_IOErrorHandler(Display* display);
 
 // Never returns: ends the process with status -1 and the reason "XtError: " and the message,
-// cut so that the whole fits 2048 bytes with its terminator. For XtAppSetErrorHandler.
-[[noreturn]] void Xt_ErrorHandler(String message);
+// cut so that the whole fits 2048 bytes with its terminator. For XtAppSetErrorHandler, whose
+// handler type carries the X library's noreturn mark; clang accepts only a function with it.
+void Xt_ErrorHandler(String message) _X_NORETURN;
 
 // A warning named "noFont" is fatal: reports it to the agent as ClientUIErrorMessage with code 1
 // and the text "noFont", or "noFont (<class>)" when the class is given, waits for the report
