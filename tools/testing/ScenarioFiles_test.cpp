@@ -34,6 +34,7 @@ std::vector<std::string> ScenarioFilesIn(std::string const& folder) {
 TEST(ScenarioFiles, ReadAndSendWellFormedDocuments) {
     setenv("ZOL_DEMO_BASE", "/tmp/base", 1);
     setenv("ZOL_DEMO_DEADLINE", "Mon, 23 Nov 2026 13:00:00 +0000", 1);
+    setenv("ZOL_DEMO_NOW", "Mon, 23 Nov 2026 11:00:00 +0000", 1);
     setenv("ZOL_SCENARIO_BASE", "/tmp/base", 1);
     struct Folder {
         char const* name;
