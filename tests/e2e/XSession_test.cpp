@@ -67,7 +67,6 @@ class XSessionTest : public TemporaryDirectory {
   protected:
     void TearDown() override {
         unsetenv("ZOLCLIENTUI_TRACE");
-        unsetenv("ZOL_STANDIN_DIALOGS");
         unsetenv("ASAN_OPTIONS");
         unsetenv("LSAN_OPTIONS");
         TemporaryDirectory::TearDown();
@@ -139,8 +138,7 @@ TEST_F(XSessionTest, AServerWithoutFontsIsReportedTwiceThenEndsWithZero) {
     std::ofstream(Path("fonts.dir")) << "0\n";
     XvfbServer server(m_root);
     AgentSimulator agent;
-    setenv("ZOL_STANDIN_DIALOGS", "label-on-show", 1);
-    StartSession(agent, server.DisplayName(), STANDIN_PATH);
+    StartSession(agent, server.DisplayName());
     agent.SendFrame("<ClientToUI><ActionRequest><ID>1</ID></ActionRequest></ClientToUI>");
     std::string const report =
         "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<ClientToUI>\n\t<ClientUIErrorMessage>\n"
@@ -183,7 +181,6 @@ TEST_F(XSessionTest, AnOpenMessageToTheHiddenWindowAsksForTheActionDialogOnTheNe
 TEST_F(XSessionTest, AnExceptionInsideATickEndsTheProcessNormally) {
     XvfbServer server;
     AgentSimulator agent;
-    setenv("ZOL_STANDIN_DIALOGS", "throw-on-tick", 1);
     StartSession(agent, server.DisplayName(), STANDIN_PATH);
     ExpectExit(agent, 0);
 }
