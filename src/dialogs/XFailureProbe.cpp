@@ -43,9 +43,6 @@ namespace {
 int const notEnded = 3;
 int const setUpFailed = 4;
 
-// Held for the life of the process, as main holds its reference.
-UnixPipeRef* mainReference = nullptr;
-
 // The start-up order of the real process, up to the toolkit error handler.
 void OpenDisplay(int& argc, char** argv) {
     XSetErrorHandler(X_ErrorHandler);
@@ -86,6 +83,10 @@ void SendProtocolMessage(char const* type, char const* protocol) {
 }
 
 }  // namespace
+
+// Held for the life of the process, as main holds its reference; outside the anonymous
+// namespace so that the leak checker sees the store.
+UnixPipeRef* mainReference = nullptr;
 
 int main(int argc, char** argv) {
     if (argc < 2) return setUpFailed;
