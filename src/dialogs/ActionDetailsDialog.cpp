@@ -45,30 +45,30 @@ void BuildActionDetailsDialog(unsigned long long actionID) {
     Boolean const multibyte = international ? True : False;
     Arg arguments[10];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNtitle, titleSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtitle, titleSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
     detailsShell =
         XtAppCreateShell(nullptr, nullptr, applicationShellWidgetClass, display, arguments, count);
 
     Widget form = XtCreateManagedWidget("form", formWidgetClass, detailsShell, nullptr, 0);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNtype, XawAsciiString), ++count;
-    XtSetArg(arguments[count], XtNwidth, 500), ++count;
-    XtSetArg(arguments[count], XtNheight, 100), ++count;
-    XtSetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
-    XtSetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
-    XtSetArg(arguments[count], XtNdisplayCaret, False), ++count;
-    XtSetArg(arguments[count], XtNstring, TextWidgetString(*previewSlot)), ++count;
-    XtSetArg(arguments[count], XtNsensitive, False), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtype, XawAsciiString), ++count;
+    SetArg(arguments[count], XtNwidth, 500), ++count;
+    SetArg(arguments[count], XtNheight, 100), ++count;
+    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
+    SetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
+    SetArg(arguments[count], XtNdisplayCaret, False), ++count;
+    SetArg(arguments[count], XtNstring, TextWidgetString(*previewSlot)), ++count;
+    SetArg(arguments[count], XtNsensitive, False), ++count;
     detailsText =
         XtCreateManagedWidget("actiondetails", asciiTextWidgetClass, form, arguments, count);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNfromVert, detailsText), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNfromVert, detailsText), ++count;
     Widget ok = XtCreateManagedWidget("ok", commandWidgetClass, form, arguments, count);
     XtAddCallback(ok, XtNcallback, OkCallback, nullptr);
 

@@ -107,14 +107,14 @@ std::unique_ptr<char[]> CopyOf(char const* text) {
 void SetSensitive(Widget widget, bool sensitive) {
     if (!widget) return;
     Arg argument;
-    XtSetArg(argument, XtNsensitive, static_cast<Boolean>(sensitive));
+    SetArg(argument, XtNsensitive, static_cast<Boolean>(sensitive));
     XtSetValues(widget, &argument, 1);
 }
 
 void SetLabel(Widget widget, std::unique_ptr<std::string>& slot, AutoUString<UTF8> const& text) {
     slot = ControlLiteral(MakeLocalString(text));
     Arg argument;
-    XtSetArg(argument, XtNlabel, slot->c_str());
+    SetArg(argument, XtNlabel, slot->c_str());
     XtSetValues(widget, &argument, 1);
 }
 
@@ -134,7 +134,7 @@ void SetDescriptionText(AutoUString<UTF8> const& text) {
     m_descriptionSlot = ControlLiteral(MakeLocalString(text));
     char* copy = TextWidgetString(*m_descriptionSlot);
     Arg argument;
-    XtSetArg(argument, XtNstring, copy);
+    SetArg(argument, XtNstring, copy);
     XtSetValues(w.actionDesc, &argument, 1);
     XtFree(m_descriptionCopy);
     m_descriptionCopy = copy;
@@ -397,7 +397,7 @@ void OnSnoozeListSelect(Widget, XtPointer, XtPointer callData) {
 
 // Every widget but the form and the viewports takes the session's multibyte flag.
 void AddInternational(Arg* arguments, Cardinal& count) {
-    XtSetArg(arguments[count], XtNinternational, static_cast<Boolean>(international));
+    SetArg(arguments[count], XtNinternational, static_cast<Boolean>(international));
     ++count;
 }
 
@@ -409,7 +409,7 @@ Dimension WidthOf(Widget widget) {
 
 void SetHorizDistance(Widget widget, int distance) {
     Arg argument;
-    XtSetArg(argument, XtNhorizDistance, distance);
+    SetArg(argument, XtNhorizDistance, distance);
     XtSetValues(widget, &argument, 1);
 }
 
@@ -417,9 +417,9 @@ Widget MakeButton(char const* name, std::string const& label, Widget above,
                   XtCallbackProc callback) {
     Arg arguments[3];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNlabel, label.c_str());
+    SetArg(arguments[count], XtNlabel, label.c_str());
     ++count;
-    XtSetArg(arguments[count], XtNfromVert, above);
+    SetArg(arguments[count], XtNfromVert, above);
     ++count;
     AddInternational(arguments, count);
     Widget button = XtCreateManagedWidget(name, commandWidgetClass, w.form, arguments, count);
@@ -430,11 +430,11 @@ Widget MakeButton(char const* name, std::string const& label, Widget above,
 Widget MakeList(Widget viewport) {
     Arg arguments[4];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNdefaultColumns, 1);
+    SetArg(arguments[count], XtNdefaultColumns, 1);
     ++count;
-    XtSetArg(arguments[count], XtNforceColumns, True);
+    SetArg(arguments[count], XtNforceColumns, True);
     ++count;
-    XtSetArg(arguments[count], XtNverticalList, True);
+    SetArg(arguments[count], XtNverticalList, True);
     ++count;
     AddInternational(arguments, count);
     return XtCreateManagedWidget("", listWidgetClass, viewport, arguments, count);
@@ -443,15 +443,15 @@ Widget MakeList(Widget viewport) {
 Widget MakeViewport(char const* name, Widget above, Dimension width, Dimension height) {
     Arg arguments[5];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNfromVert, above);
+    SetArg(arguments[count], XtNfromVert, above);
     ++count;
-    XtSetArg(arguments[count], XtNheight, height);
+    SetArg(arguments[count], XtNheight, height);
     ++count;
-    XtSetArg(arguments[count], XtNwidth, width);
+    SetArg(arguments[count], XtNwidth, width);
     ++count;
-    XtSetArg(arguments[count], XtNallowVert, True);
+    SetArg(arguments[count], XtNallowVert, True);
     ++count;
-    XtSetArg(arguments[count], XtNforceBars, True);
+    SetArg(arguments[count], XtNforceBars, True);
     ++count;
     return XtCreateManagedWidget(name, viewportWidgetClass, w.form, arguments, count);
 }
@@ -487,7 +487,7 @@ void BuildTree() {
 
     Arg arguments[10];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNtitle, m_titleSlot->c_str());
+    SetArg(arguments[count], XtNtitle, m_titleSlot->c_str());
     ++count;
     AddInternational(arguments, count);
     w.shell =
@@ -496,45 +496,45 @@ void BuildTree() {
     w.form = XtCreateManagedWidget("form", formWidgetClass, w.shell, nullptr, 0);
 
     count = 0;
-    XtSetArg(arguments[count], XtNwidth, 500);
+    SetArg(arguments[count], XtNwidth, 500);
     ++count;
-    XtSetArg(arguments[count], XtNborderWidth, 0);
+    SetArg(arguments[count], XtNborderWidth, 0);
     ++count;
-    XtSetArg(arguments[count], XtNjustify, XtJustifyLeft);
+    SetArg(arguments[count], XtNjustify, XtJustifyLeft);
     ++count;
     AddInternational(arguments, count);
     w.actionTitle =
         XtCreateManagedWidget("actiontitle", labelWidgetClass, w.form, arguments, count);
 
     count = 0;
-    XtSetArg(arguments[count], XtNtype, XawAsciiString);
+    SetArg(arguments[count], XtNtype, XawAsciiString);
     ++count;
-    XtSetArg(arguments[count], XtNwidth, 500);
+    SetArg(arguments[count], XtNwidth, 500);
     ++count;
-    XtSetArg(arguments[count], XtNheight, 70);
+    SetArg(arguments[count], XtNheight, 70);
     ++count;
-    XtSetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways);
+    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways);
     ++count;
-    XtSetArg(arguments[count], XtNwrap, XawtextWrapWord);
+    SetArg(arguments[count], XtNwrap, XawtextWrapWord);
     ++count;
-    XtSetArg(arguments[count], XtNfromVert, w.actionTitle);
+    SetArg(arguments[count], XtNfromVert, w.actionTitle);
     ++count;
-    XtSetArg(arguments[count], XtNdisplayCaret, False);
+    SetArg(arguments[count], XtNdisplayCaret, False);
     ++count;
-    XtSetArg(arguments[count], XtNsensitive, False);
+    SetArg(arguments[count], XtNsensitive, False);
     ++count;
     AddInternational(arguments, count);
     w.actionDesc =
         XtCreateManagedWidget("actiondesc", asciiTextWidgetClass, w.form, arguments, count);
 
     count = 0;
-    XtSetArg(arguments[count], XtNborderWidth, 0);
+    SetArg(arguments[count], XtNborderWidth, 0);
     ++count;
-    XtSetArg(arguments[count], XtNfromVert, w.actionDesc);
+    SetArg(arguments[count], XtNfromVert, w.actionDesc);
     ++count;
-    XtSetArg(arguments[count], XtNvertDistance, 10);
+    SetArg(arguments[count], XtNvertDistance, 10);
     ++count;
-    XtSetArg(arguments[count], XtNlabel, m_listHeadingSlot->c_str());
+    SetArg(arguments[count], XtNlabel, m_listHeadingSlot->c_str());
     ++count;
     AddInternational(arguments, count);
     w.actionListLabel =
@@ -583,11 +583,11 @@ void BuildTree() {
     }
 
     count = 0;
-    XtSetArg(arguments[count], XtNborderWidth, 0);
+    SetArg(arguments[count], XtNborderWidth, 0);
     ++count;
-    XtSetArg(arguments[count], XtNfromVert, w.takeAllActions);
+    SetArg(arguments[count], XtNfromVert, w.takeAllActions);
     ++count;
-    XtSetArg(arguments[count], XtNlabel, m_snoozeCaptionSlot->c_str());
+    SetArg(arguments[count], XtNlabel, m_snoozeCaptionSlot->c_str());
     ++count;
     AddInternational(arguments, count);
     w.snoozeLabel =

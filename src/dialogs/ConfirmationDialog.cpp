@@ -61,27 +61,27 @@ void BuildConfirmationRequestDialog(unsigned long long actionID) {
     Boolean const multibyte = international ? True : False;
     Arg arguments[10];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNtitle, dialogTitleSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtitle, dialogTitleSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
     confirmationShell =
         XtAppCreateShell(nullptr, nullptr, applicationShellWidgetClass, display, arguments, count);
 
     Widget form = XtCreateManagedWidget("form", formWidgetClass, confirmationShell, nullptr, 0);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNborderWidth, 0), ++count;
-    XtSetArg(arguments[count], XtNjustify, XtJustifyLeft), ++count;
-    XtSetArg(arguments[count], XtNlabel, actionTitleSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNborderWidth, 0), ++count;
+    SetArg(arguments[count], XtNjustify, XtJustifyLeft), ++count;
+    SetArg(arguments[count], XtNlabel, actionTitleSlot->c_str()), ++count;
     Widget actionTitle =
         XtCreateManagedWidget("actiontitle", labelWidgetClass, form, arguments, count);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNborderWidth, 0), ++count;
-    XtSetArg(arguments[count], XtNjustify, XtJustifyLeft), ++count;
-    XtSetArg(arguments[count], XtNlabel, explanationSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNfromVert, actionTitle), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNborderWidth, 0), ++count;
+    SetArg(arguments[count], XtNjustify, XtJustifyLeft), ++count;
+    SetArg(arguments[count], XtNlabel, explanationSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNfromVert, actionTitle), ++count;
     Widget explanation =
         XtCreateManagedWidget("staticlabel", labelWidgetClass, form, arguments, count);
 
@@ -91,30 +91,30 @@ void BuildConfirmationRequestDialog(unsigned long long actionID) {
     if (explanationWidth > m_confirmationWidth) m_confirmationWidth = explanationWidth;
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNtype, XawAsciiString), ++count;
-    XtSetArg(arguments[count], XtNwidth, m_confirmationWidth), ++count;
-    XtSetArg(arguments[count], XtNheight, 100), ++count;
-    XtSetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
-    XtSetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
-    XtSetArg(arguments[count], XtNdisplayCaret, False), ++count;
-    XtSetArg(arguments[count], XtNfromVert, explanation), ++count;
-    XtSetArg(arguments[count], XtNstring, TextWidgetString(*confirmationSlot)), ++count;
-    XtSetArg(arguments[count], XtNsensitive, False), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtype, XawAsciiString), ++count;
+    SetArg(arguments[count], XtNwidth, m_confirmationWidth), ++count;
+    SetArg(arguments[count], XtNheight, 100), ++count;
+    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
+    SetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
+    SetArg(arguments[count], XtNdisplayCaret, False), ++count;
+    SetArg(arguments[count], XtNfromVert, explanation), ++count;
+    SetArg(arguments[count], XtNstring, TextWidgetString(*confirmationSlot)), ++count;
+    SetArg(arguments[count], XtNsensitive, False), ++count;
     Widget message =
         XtCreateManagedWidget("actionconfirmation", asciiTextWidgetClass, form, arguments, count);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNlabel, cancelLabelSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNfromVert, message), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNlabel, cancelLabelSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNfromVert, message), ++count;
     Widget cancel = XtCreateManagedWidget("cancel", commandWidgetClass, form, arguments, count);
     XtAddCallback(cancel, XtNcallback, CancelCallback, nullptr);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNfromVert, message), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNfromVert, message), ++count;
     Widget ok = XtCreateManagedWidget("ok", commandWidgetClass, form, arguments, count);
     XtAddCallback(ok, XtNcallback, OkCallback, nullptr);
 

@@ -55,30 +55,30 @@ void BuildMessageDialog(MessageDialog& entry) {
     Boolean const multibyte = international ? True : False;
     Arg arguments[10];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNtitle, entry.title.c_str()), ++count;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtitle, entry.title.c_str()), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
     entry.shell =
         XtAppCreateShell(nullptr, nullptr, applicationShellWidgetClass, display, arguments, count);
 
     Widget form = XtCreateManagedWidget("form", formWidgetClass, entry.shell, nullptr, 0);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNtype, XawAsciiString), ++count;
-    XtSetArg(arguments[count], XtNwidth, 500), ++count;
-    XtSetArg(arguments[count], XtNheight, 100), ++count;
-    XtSetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
-    XtSetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
-    XtSetArg(arguments[count], XtNdisplayCaret, False), ++count;
-    XtSetArg(arguments[count], XtNstring, TextWidgetString(entry.message)), ++count;
-    XtSetArg(arguments[count], XtNsensitive, False), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtype, XawAsciiString), ++count;
+    SetArg(arguments[count], XtNwidth, 500), ++count;
+    SetArg(arguments[count], XtNheight, 100), ++count;
+    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
+    SetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
+    SetArg(arguments[count], XtNdisplayCaret, False), ++count;
+    SetArg(arguments[count], XtNstring, TextWidgetString(entry.message)), ++count;
+    SetArg(arguments[count], XtNsensitive, False), ++count;
     entry.text =
         XtCreateManagedWidget("actionmessage", asciiTextWidgetClass, form, arguments, count);
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNlabel, entry.buttonLabel.c_str()), ++count;
-    XtSetArg(arguments[count], XtNfromVert, entry.text), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNlabel, entry.buttonLabel.c_str()), ++count;
+    SetArg(arguments[count], XtNfromVert, entry.text), ++count;
     Widget dismiss = XtCreateManagedWidget("dismiss", commandWidgetClass, form, arguments, count);
     XtAddCallback(dismiss, XtNcallback, DismissCallback, entry.shell);
 

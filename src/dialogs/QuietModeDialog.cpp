@@ -42,8 +42,8 @@ void BuildQuietModeDialog(Instant const& start, Instant const& end) {
     Boolean const multibyte = international ? True : False;
     Arg arguments[6];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNtitle, titleSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNtitle, titleSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
     quietModeShell =
         XtAppCreateShell(nullptr, nullptr, applicationShellWidgetClass, display, arguments, count);
 
@@ -51,10 +51,10 @@ void BuildQuietModeDialog(Instant const& start, Instant const& end) {
 
     // A label, so the text does not wrap: the dialog is as wide as the explanation.
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNborderWidth, 0), ++count;
-    XtSetArg(arguments[count], XtNjustify, XtJustifyLeft), ++count;
-    XtSetArg(arguments[count], XtNlabel, explanationSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNborderWidth, 0), ++count;
+    SetArg(arguments[count], XtNjustify, XtJustifyLeft), ++count;
+    SetArg(arguments[count], XtNlabel, explanationSlot->c_str()), ++count;
     Widget explanation =
         XtCreateManagedWidget("staticlabel", labelWidgetClass, form, arguments, count);
 
@@ -63,9 +63,9 @@ void BuildQuietModeDialog(Instant const& start, Instant const& end) {
     if (labelWidth > quietModeWidth) quietModeWidth = labelWidth;
 
     count = 0;
-    XtSetArg(arguments[count], XtNinternational, multibyte), ++count;
-    XtSetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
-    XtSetArg(arguments[count], XtNfromVert, explanation), ++count;
+    SetArg(arguments[count], XtNinternational, multibyte), ++count;
+    SetArg(arguments[count], XtNlabel, okLabelSlot->c_str()), ++count;
+    SetArg(arguments[count], XtNfromVert, explanation), ++count;
     Widget ok = XtCreateManagedWidget("ok", commandWidgetClass, form, arguments, count);
     XtAddCallback(ok, XtNcallback, OkCallback, nullptr);
 

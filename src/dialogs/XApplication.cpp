@@ -9,6 +9,7 @@
 #include "dialogs/DefaultFontSet.h"
 #include "dialogs/SystemMenuClose.h"
 #include "dialogs/XErrorHandlers.h"
+#include "dialogs/XHelpers.h"
 #include "localized/TranslationFiles.h"
 #include "session/DialogCalls.h"
 #include "session/PendingActionsTick.h"
@@ -81,9 +82,9 @@ void TimerTick(XtPointer, XtIntervalId*) {
 void CreateHiddenWindow() {
     Arg arguments[3];
     Cardinal count = 0;
-    XtSetArg(arguments[count], XtNwidth, 32), ++count;
-    XtSetArg(arguments[count], XtNheight, 32), ++count;
-    XtSetArg(arguments[count], XtNmappedWhenManaged, False), ++count;
+    SetArg(arguments[count], XtNwidth, 32), ++count;
+    SetArg(arguments[count], XtNheight, 32), ++count;
+    SetArg(arguments[count], XtNmappedWhenManaged, False), ++count;
     zolHidden = XtAppCreateShell("ZOLClientUIHiddenWindow", nullptr, applicationShellWidgetClass,
                                  display, arguments, count);
     XtRealizeWidget(zolHidden);

@@ -21,8 +21,8 @@ void CenterDialogOnDisplay(Widget shell) {
     int x = (WidthOfScreen(screen) - static_cast<int>(width)) / 2;
     int y = (HeightOfScreen(screen) - static_cast<int>(height)) / 2;
     Arg arguments[2];
-    XtSetArg(arguments[0], XtNx, static_cast<Position>(x));
-    XtSetArg(arguments[1], XtNy, static_cast<Position>(y));
+    SetArg(arguments[0], XtNx, static_cast<Position>(x));
+    SetArg(arguments[1], XtNy, static_cast<Position>(y));
     XtSetValues(shell, arguments, 2);
 }
 

@@ -6,8 +6,22 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 
 #include "text/unicode/AutoNullTerminated.h"
+
+// Fills one entry of an argument list, as XtSetArg does. Xt types a resource name as a
+// writable char *, while the Athena headers spell their names as string literals; the toolkit
+// never writes through a name, so taking it as const here is sound and keeps the literals const.
+template <typename Value>
+void SetArg(Arg& argument, char const* name, Value value) {
+    argument.name = const_cast<String>(name);
+    if constexpr (std::is_pointer_v<Value>) {
+        argument.value = reinterpret_cast<XtArgVal>(value);
+    } else {
+        argument.value = static_cast<XtArgVal>(value);
+    }
+}
 
 // Moves the shell so that it stands in the middle of the default screen of its display, from
 // its current width and height, dividing toward zero. Call it after realizing; a window
