@@ -18,26 +18,9 @@
 #include "files/FileWritingPath.h"
 #include "files/ReadFile.h"
 #include "testing/RandomBytes.h"
+#include "testing/Recorders.h"
 #include "testing/TemporaryDirectory.h"
 #include "text/streams/StringReceiver.h"
-
-namespace {
-
-// Records the calls a source makes, to check their order as well as the bytes.
-class RecordingReceiver : public DataReceiver {
-  public:
-    void Start() override { calls += "S"; }
-    void Receive(ConstData data) override {
-        calls += "R";
-        bytes += MakeString(data);
-    }
-    void ReceiveEnd() override { calls += "E"; }
-
-    std::string calls;
-    std::string bytes;
-};
-
-}  // namespace
 
 class FileIO : public TemporaryDirectory {};
 
@@ -178,16 +161,18 @@ TEST_F(FileIO, WritersArePositionedAndIndependent) {
 
 TEST_F(FileIO, EmptyFileGivesStartAndEndOnly) {
     WriteText(Path("empty"), "");
-    RecordingReceiver receiver;
+    DataRecorder receiver;
     ReadFile(Location("empty"), receiver, 0);
-    EXPECT_EQ("SE", receiver.calls);
+    EXPECT_EQ(1, receiver.starts);
+    EXPECT_EQ(std::vector<std::size_t>{}, receiver.chunks);
+    EXPECT_EQ(1, receiver.ends);
 
     std::string const text(5000, 'x');
     WriteText(Path("long"), text);
-    RecordingReceiver chunks;
+    DataRecorder chunks;
     ReadFile(Location("long"), chunks, 0);
-    EXPECT_EQ("SRRRE", chunks.calls);  // chunks of 2048 bytes
-    EXPECT_EQ(text, chunks.bytes);
+    EXPECT_EQ((std::vector<std::size_t>{2048, 2048, 904}), chunks.chunks);
+    EXPECT_EQ(text, chunks.text);
 }
 
 TEST_F(FileIO, PipeIsReadAsAStream) {

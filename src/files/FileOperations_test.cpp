@@ -13,6 +13,7 @@
 #include "files/FileLoop.h"
 #include "files/FileMove.h"
 #include "files/UniqueFileLocation.h"
+#include "testing/RandomBytes.h"
 #include "testing/TemporaryDirectory.h"
 
 namespace {
@@ -45,10 +46,7 @@ TEST_F(FileOperations, MoveOfATreeAcrossFileSystems) {
     std::string const other = MakeTree("/dev/shm");
     ASSERT_NE(DeviceOf(m_root), DeviceOf(other)) << "the test needs two file systems";
     std::mt19937 random(3);
-    std::string big(200000, 0);
-    for (char& byte : big) {
-        byte = static_cast<char>(random());
-    }
+    std::string const big = RandomBytes(random, 200000);
     MakeDirectory(Path("src"));
     MakeDirectory(Path("src/sub"));
     MakeDirectory(Path("src/sub/deeper"));

@@ -14,14 +14,6 @@
 
 namespace {
 
-struct LogEntry {
-    bool success;
-    std::string operation;
-    std::string first;
-    std::string second;
-    unsigned long attempts;
-};
-
 class RecordingLog : public FileRetryLog {
   public:
     void LogRetrySuccess(char const* operation, FileLocation const* first,
@@ -33,13 +25,16 @@ class RecordingLog : public FileRetryLog {
         Record(false, operation, first, second, attempts);
     }
 
-    mutable std::vector<LogEntry> entries;
+    // One line per report: "success" or "failure", the operation, both paths, the attempts.
+    mutable std::vector<std::string> entries;
 
   private:
     void Record(bool success, char const* operation, FileLocation const* first,
                 FileLocation const* second, unsigned long attempts) const {
-        entries.push_back({success, operation, first ? first->LogString() : "<null>",
-                           second ? second->LogString() : "<null>", attempts});
+        entries.push_back(std::string(success ? "success " : "failure ") + operation + " " +
+                          (first ? first->LogString() : "<null>") + " " +
+                          (second ? second->LogString() : "<null>") + " " +
+                          std::to_string(attempts));
     }
 };
 
@@ -81,12 +76,8 @@ TEST_F(FileRetry, SuccessOnTheThirdAttemptLogsOnceWithThree) {
         DeleteFile(target);
     });
     EXPECT_EQ(3u, attempts);
-    ASSERT_EQ(1u, log.entries.size());
-    EXPECT_TRUE(log.entries[0].success);
-    EXPECT_EQ("DeleteFile", log.entries[0].operation);
-    EXPECT_EQ(target.LogString(), log.entries[0].first);
-    EXPECT_EQ("<null>", log.entries[0].second);
-    EXPECT_EQ(3u, log.entries[0].attempts);
+    EXPECT_EQ(log.entries,
+              std::vector<std::string>{"success DeleteFile " + target.LogString() + " <null> 3"});
     EXPECT_FALSE(Exists(Path("late")));
 }
 
@@ -96,9 +87,8 @@ TEST_F(FileRetry, PermanentFailureIsTriedEightTimesWithPauses) {
     EXPECT_THROW(DeleteFileWithRetry(Location("missing"), log), FileNotFoundError);
     // Pauses of 16, 32, ..., 1024 milliseconds between the eight attempts.
     EXPECT_GE(MillisecondsSince(start), 2032);
-    ASSERT_EQ(1u, log.entries.size());
-    EXPECT_FALSE(log.entries[0].success);
-    EXPECT_EQ(8u, log.entries[0].attempts);
+    EXPECT_EQ(log.entries, std::vector<std::string>{"failure DeleteFile " +
+                                                    Location("missing").LogString() + " <null> 8"});
 }
 
 TEST_F(FileRetry, EmptyLocationFailsAtOnceExceptWhereNotExempt) {
@@ -122,7 +112,6 @@ TEST_F(FileRetry, EmptyLocationFailsAtOnceExceptWhereNotExempt) {
                      }),
         EmptyFileLocationError);
     EXPECT_EQ(8u, attempts);
-    ASSERT_EQ(1u, log.entries.size());
-    EXPECT_EQ(8u, log.entries[0].attempts);
-    EXPECT_EQ("FlushOnBrokenFilesystems", log.entries[0].operation);
+    EXPECT_EQ(log.entries,
+              std::vector<std::string>{"failure FlushOnBrokenFilesystems <null> <null> 8"});
 }

@@ -69,13 +69,10 @@ TEST(PortableThread, ThrowingFunctionStillCompletesAndWaitsForAbandon) {
     thread->Abandon();
 }
 
-TEST(PortableThread, NullFunctionsStartNothing) {
+TEST(PortableThread, SecondStartReportsSuccessAndNullFunctionsStartNothing) {
     EXPECT_FALSE(PortableThread::RunPortableThread(nullptr, nullptr));
     EXPECT_EQ(PortableThread::CreatePortableThreadSuspended(nullptr, nullptr), nullptr);
     EXPECT_EQ(PortableThread::CreatePortableThread(nullptr, nullptr), nullptr);
-}
-
-TEST(PortableThread, SecondStartReportsSuccessWithoutAnotherThread) {
     Probe probe;
     PortableThread* thread = PortableThread::CreatePortableThreadSuspended(Throwing, &probe);
     ASSERT_NE(thread, nullptr);

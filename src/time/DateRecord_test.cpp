@@ -53,11 +53,7 @@ TEST(DateRecord, YearOfAndDaysBeforeAgreeAtTheEdgesOfEveryYear) {
     }
 }
 
-TEST(DateRecord, KnownDaysAndLeapYears) {
-    EXPECT_EQ(DateRecord(1, January, 1970).AbsoluteDay(), 719528u);
-    EXPECT_EQ(DateRecord(1, January, 1970).DayOfWeek(), Thursday);
-    EXPECT_EQ(DateRecord(4, March, 2000).DayOfWeek(), Saturday);
-
+TEST(DateRecord, LeapYears) {
     struct {
         unsigned long year;
         bool leap;

@@ -23,12 +23,6 @@ std::string Failure(Call call) {
     return "none";
 }
 
-void ExpectFields(TimeObject const& got, TimeObject const& expected, std::string const& text) {
-    EXPECT_EQ(got.date, expected.date) << text;
-    EXPECT_EQ(got.timeOfDay, expected.timeOfDay) << text;
-    EXPECT_EQ(got.zone, expected.zone) << text;
-}
-
 }  // namespace
 
 TEST(TextToTime, ReadsTheFormsOfTheLanguage) {
@@ -49,7 +43,8 @@ TEST(TextToTime, ReadsTheFormsOfTheLanguage) {
         {"Tue, 29 Feb 2000 23:59:59 -1200", Reading(2000, February, 29, 23, 59, 59, -43200)},
         {"Sat, 01 Jan 0000 00:00:00 +0000", Reading(0, January, 1, 0, 0, 0, 0)},
     };
-    for (auto const& c : cases) ExpectFields(TextToTime(ConstData(c.text)), c.expected, c.text);
+    for (auto const& c : cases)
+        ExpectSameReading(TextToTime(ConstData(c.text)), c.expected, c.text);
 }
 
 TEST(TextToTime, FailsWithTheClassOfTheFault) {
@@ -91,14 +86,14 @@ TEST(TextToTime, FailsWithTheClassOfTheFault) {
 
 TEST(TextToTime, ConvertsIntoAGivenZoneOrReadsInIt) {
     TimeZone const plusOne(3600);
-    ExpectFields(TextToTime("04 Mar 2000 07:05:09 +0000", plusOne),
-                 Reading(2000, March, 4, 8, 5, 9, 3600), "converted");
-    ExpectFields(TextToTime("04 Mar 2000 07:05:09", plusOne),
-                 Reading(2000, March, 4, 7, 5, 9, 3600), "read in the zone");
-    ExpectFields(TextToTime("04 Mar 2000 07:05:09 Z", plusOne),
-                 Reading(2000, March, 4, 7, 5, 9, 3600), "a letter counts as no zone");
-    ExpectFields(TextToTime("01 Jan 2000 00:30:00 +0100", TimeZone(0)),
-                 Reading(1999, December, 31, 23, 30, 0, 0), "across midnight");
+    ExpectSameReading(TextToTime("04 Mar 2000 07:05:09 +0000", plusOne),
+                      Reading(2000, March, 4, 8, 5, 9, 3600), "converted");
+    ExpectSameReading(TextToTime("04 Mar 2000 07:05:09", plusOne),
+                      Reading(2000, March, 4, 7, 5, 9, 3600), "read in the zone");
+    ExpectSameReading(TextToTime("04 Mar 2000 07:05:09 Z", plusOne),
+                      Reading(2000, March, 4, 7, 5, 9, 3600), "a letter counts as no zone");
+    ExpectSameReading(TextToTime("01 Jan 2000 00:30:00 +0100", TimeZone(0)),
+                      Reading(1999, December, 31, 23, 30, 0, 0), "across midnight");
     EXPECT_EQ(Failure([] { TextToTime("31 Apr 2000 07:05:09", TimeZone()); }), "NoSuchDate");
 }
 

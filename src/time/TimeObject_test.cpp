@@ -9,16 +9,6 @@
 #include "time/TimeMark.h"
 #include "time/ZonedTimeOfDay.h"
 
-namespace {
-
-void ExpectSameFields(TimeObject const& a, TimeObject const& b) {
-    EXPECT_EQ(a.date, b.date);
-    EXPECT_EQ(a.timeOfDay, b.timeOfDay);
-    EXPECT_EQ(a.zone, b.zone);
-}
-
-}  // namespace
-
 TEST(TimeOfDay, WrapsAroundMidnightWithoutCarry) {
     TimeOfDay t(10, 0, 0);
     TimeOfDay u = t;
@@ -41,14 +31,14 @@ TEST(TimeOfDay, WrapsAroundMidnightWithoutCarry) {
 
 TEST(TimeObject, InstantsOfKnownReadings) {
     EXPECT_EQ(Instant(Reading(1969, December, 31, 23, 59, 59)).Microseconds(), -1000000);
-    ExpectSameFields(TimeObject(), Reading(1970, January, 1, 0, 0, 0));
+    ExpectSameReading(TimeObject(), Reading(1970, January, 1, 0, 0, 0));
     // 2000-03-04T07:05:09Z is 952153509 seconds after the epoch.
     EXPECT_EQ(Instant(Reading(2000, March, 4, 7, 5, 9)).Microseconds(), 952153509000000LL);
     EXPECT_EQ(Instant(Reading(2000, March, 4, 8, 5, 9, 3600)).Microseconds(), 952153509000000LL);
     // Fractions are dropped towards zero, before and after 1970.
-    ExpectSameFields(TimeObject(Instant(1999999), TimeZone()), Reading(1970, January, 1, 0, 0, 1));
-    ExpectSameFields(TimeObject(Instant(-1500000), TimeZone()),
-                     Reading(1969, December, 31, 23, 59, 59));
+    ExpectSameReading(TimeObject(Instant(1999999), TimeZone()), Reading(1970, January, 1, 0, 0, 1));
+    ExpectSameReading(TimeObject(Instant(-1500000), TimeZone()),
+                      Reading(1969, December, 31, 23, 59, 59));
 }
 
 TEST(TimeObject, ReadingsOfRandomInstantsRoundTripInEveryZone) {

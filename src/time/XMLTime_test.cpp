@@ -2,13 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <ctime>
 #include <limits>
 #include <random>
 #include <stdexcept>
 #include <string>
 
+#include "testing/ScopedSettings.h"
 #include "testing/TestText.h"
 #include "text/bytes/AsciiNumerals.h"
 #include "text/bytes/BytesErrors.h"
@@ -95,8 +94,6 @@ TEST(XMLTime, WritersOfDatesTimesAndDateTimes) {
 }
 
 TEST(XMLTime, LocalZoneIsTheZoneOfTheCall) {
-    char const* const saved = std::getenv("TZ");
-    std::string const previous = saved ? saved : "";
     struct {
         char const* tz;
         char const* written;
@@ -105,18 +102,11 @@ TEST(XMLTime, LocalZoneIsTheZoneOfTheCall) {
                        {"XYZ-1", "2000-03-04T08:05:09+01:00", 3600},
                        {"XYZ+5:30", "2000-03-04T01:35:09-05:30", -19800}};
     for (auto const& z : zones) {
-        setenv("TZ", z.tz, 1);
-        tzset();
+        ScopedTimeZone zone(z.tz);
         // The fraction is dropped, not rounded.
         EXPECT_EQ(Str(InstantToXMLDateTime(Instant(reference + 999999))), z.written);
         EXPECT_EQ(Read("2000-03-04T07:05:09"), reference - z.offset * second);
     }
-    if (saved) {
-        setenv("TZ", previous.c_str(), 1);
-    } else {
-        unsetenv("TZ");
-    }
-    tzset();
 }
 
 TEST(TimeIntervalToXMLDuration, KnownForms) {

@@ -8,24 +8,13 @@
 #include <sstream>
 #include <string>
 
+#include "testing/Recorders.h"
 #include "testing/XMLDump.h"
 #include "text/unicode/UStringBuilder.h"
 #include "xml/SimpleXMLParse.h"
 #include "xml/XMLElement.h"
 
 namespace {
-
-// Collects the bytes and counts the stream's starts and ends.
-struct Recorder : UTextReceiver<UTF8> {
-    std::string bytes;
-    int starts = 0;
-    int ends = 0;
-    void Start(UTF8) override { ++starts; }
-    void Receive(ConstArrayOf<UTF8::Unit> chunk) override {
-        bytes.append(reinterpret_cast<char const*>(chunk.begin), chunk.Count());
-    }
-    void ReceiveEnd() override { ++ends; }
-};
 
 // The line-end escapes exist behind a flag that no operation sets; a derived writer reaches them.
 struct TestWriter : XMLWriter {
@@ -35,10 +24,10 @@ struct TestWriter : XMLWriter {
 };
 
 std::string Escaped(std::string const& input, bool inAttribute, bool lineEnds) {
-    Recorder out;
+    TextRecorder<UTF8> out;
     TestWriter writer(out, lineEnds);
     inAttribute ? writer.AddAttribute("n", U8(input)) : writer.WriteString(U8(input));
-    return out.bytes;
+    return Str(out.All());
 }
 
 TEST(XMLWriter, EscapesTextAndAttributes) {
@@ -116,10 +105,10 @@ TEST(XMLWriter, PlacesLineFeedsByStyleAndWhatCameLast) {
         {XMLWriter::IndentedLines, "< = ' [ >", "\n< =\"\"><![CDATA[]]></>"},
     };
     for (auto const& c : cases) {
-        Recorder out;
+        TextRecorder<UTF8> out;
         XMLWriter writer(out, c.style);
         Play(writer, c.script);
-        EXPECT_EQ(out.bytes, c.bytes) << c.script;
+        EXPECT_EQ(Str(out.All()), c.bytes) << c.script;
         EXPECT_EQ(out.starts, std::count(c.script.begin(), c.script.end(), '?'));
         EXPECT_EQ(out.ends, std::count(c.script.begin(), c.script.end(), '$'));
     }
@@ -127,10 +116,10 @@ TEST(XMLWriter, PlacesLineFeedsByStyleAndWhatCameLast) {
 
 TEST(XMLWriter, WritesAWholeTreeValueFirstAttributesInOrder) {
     auto root = SimpleXML::Parse(U8("<r z=\"1\" a=\"&quot;\"><c>x</c>v<d></d></r>"));
-    Recorder out;
+    TextRecorder<UTF8> out;
     XMLWriter writer(out, XMLWriter::IndentedLines);
     writer.WriteXMLElement(*root);
-    EXPECT_EQ(out.bytes, "\n<r a=\"&quot;\" z=\"1\">v\n\t<c>x</c>\n\t<d></d>\n</r>");
+    EXPECT_EQ(Str(out.All()), "\n<r a=\"&quot;\" z=\"1\">v\n\t<c>x</c>\n\t<d></d>\n</r>");
 }
 
 // Any bytes at all, favouring those that the writer and the parser steer by.

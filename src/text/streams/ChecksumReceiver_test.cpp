@@ -4,6 +4,7 @@
 #include <random>
 #include <vector>
 
+#include "testing/RandomBytes.h"
 #include "text/streams/ChecksumReceiver.h"
 #include "text/streams/StreamHelpers.h"
 
@@ -36,8 +37,7 @@ TEST(ChecksumReceiver, KnownAnswers) {
 TEST(ChecksumReceiver, AgreesWithTheBitwiseDefinitionForAnyChunking) {
     std::mt19937 random(5);
     for (int round = 0; round < 200; ++round) {
-        std::vector<unsigned char> bytes(random() % 300);
-        for (auto& byte : bytes) byte = static_cast<unsigned char>(random());
+        auto const bytes = RandomBytes<std::vector<unsigned char>>(random, random() % 300);
         ChecksumReceiver checksum;
         checksum.Start();
         // Pieces of every length up to 20 cover the sixteen-byte steps and the bytes left over.

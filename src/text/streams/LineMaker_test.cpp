@@ -60,11 +60,6 @@ LineRecorder FeedLines(std::string const& input, std::vector<std::size_t> cuts,
     return recorder;
 }
 
-std::string LineRecord(std::string const& input, std::vector<std::size_t> const& cuts,
-                       unsigned long long start = 0) {
-    return FeedLines(input, cuts, start).record;
-}
-
 }  // namespace
 
 TEST(LineMaker, BreaksOfOneAndTwoBytesInEveryChunking) {
@@ -84,13 +79,13 @@ TEST(LineMaker, BreaksOfOneAndTwoBytesInEveryChunking) {
     };
     for (auto const& c : cases) {
         std::string const input = c.input;
-        EXPECT_EQ(LineRecord(input, {}), c.record) << input;
+        EXPECT_EQ(FeedLines(input, {}).record, c.record) << input;
         std::vector<std::size_t> everyByte;
         for (std::size_t cut = 0; cut <= input.size(); ++cut) everyByte.push_back(cut);
-        EXPECT_EQ(LineRecord(input, everyByte), c.record) << input;
+        EXPECT_EQ(FeedLines(input, everyByte).record, c.record) << input;
     }
     // Positions count from the start that was given.
-    EXPECT_EQ(LineRecord("a\r\nb", {2}, 100), "S100'a'[101,103]'b'E104");
+    EXPECT_EQ(FeedLines("a\r\nb", {2}, 100).record, "S100'a'[101,103]'b'E104");
 }
 
 TEST(LineMaker, RandomTextIsCutIntoMaximalBreaksWhateverTheChunks) {
@@ -104,7 +99,7 @@ TEST(LineMaker, RandomTextIsCutIntoMaximalBreaksWhateverTheChunks) {
         std::sort(cuts.begin(), cuts.end());
 
         LineRecorder const recorder = FeedLines(input, cuts);
-        ASSERT_EQ(recorder.record, LineRecord(input, {})) << input;
+        ASSERT_EQ(recorder.record, FeedLines(input, {}).record) << input;
 
         // The lines and the bytes of their breaks put together are the input again; every break
         // takes its partner byte when one follows.

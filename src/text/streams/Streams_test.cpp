@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "testing/RandomBytes.h"
+#include "testing/Recorders.h"
 #include "text/bytes/Ascii.h"
 #include "text/streams/AsciiCaseFilters.h"
 #include "text/streams/DataFilterer.h"
@@ -42,21 +44,6 @@ class ChunkReader : public DataReader {
     std::size_t next = 0;
 };
 
-// Collects what it receives and the sizes of the chunks.
-class ChunkRecorder : public DataReceiver {
-  public:
-    using DataReceiver::Receive;
-    std::string text;
-    std::vector<std::size_t> chunks;
-    int starts = 0, ends = 0;
-    void Start() override { ++starts; }
-    void Receive(ConstData data) override {
-        text += MakeString(data);
-        chunks.push_back(data.Size());
-    }
-    void ReceiveEnd() override { ++ends; }
-};
-
 // Holds all of its input and writes it backwards when flushed, as much as each Flush allows.
 class Reverser : public DataFilter {
   public:
@@ -86,11 +73,10 @@ class Stuck : public DataFilter {
 
 TEST(ReadReader, PushesEverythingInChunksOfAtMost2048) {
     std::mt19937 random(17);
-    std::string text(5000, '\0');
-    for (char& c : text) c = static_cast<char>(random());
+    std::string const text = RandomBytes(random, 5000);
     for (auto const& sizes : std::vector<std::vector<std::size_t>>{{100000}, {0, 1, 0, 7}, {3}}) {
         ChunkReader reader(text, sizes);
-        ChunkRecorder recorder;
+        DataRecorder recorder;
         ReadReader(reader, recorder);
         EXPECT_EQ(recorder.text, text);
         EXPECT_EQ(recorder.starts + recorder.ends, 2);
@@ -144,7 +130,7 @@ TEST(DataFilterer, StagesAtMost1024BytesAndFlushesUntilDone) {
 
     // Everything comes out of the flushes, which need several rounds of the staging buffer.
     Reverser reverser;
-    ChunkRecorder reversed;
+    DataRecorder reversed;
     ConstData const parts[] = {ConstData(input.data(), 1000), ConstData(input.data() + 1000, 2000)};
     StartReceiveAndEnd(reversed, ConstDataRopeReference(parts), reverser);
     EXPECT_EQ(reversed.text, std::string(input.rbegin(), input.rend()));
@@ -155,7 +141,7 @@ TEST(DataFilterer, StagesAtMost1024BytesAndFlushesUntilDone) {
 
     // A filter that makes no headway can't hold the stream for ever.
     Stuck stuck;
-    ChunkRecorder nothing;
+    DataRecorder nothing;
     EXPECT_THROW(StartReceiveAndEnd(nothing, ConstData("x"), stuck), DataOverflow);
 }
 

@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <clocale>
 #include <random>
 #include <string>
 #include <vector>
 
+#include "testing/ScopedSettings.h"
 #include "testing/TestText.h"
 #include "text/unicode/LocaleConversion.h"
 #include "text/unicode/MakeLocalString.h"
@@ -13,20 +13,6 @@
 #include "text/unicode/UnicodeErrors.h"
 
 namespace {
-
-// Switches LC_CTYPE to a locale made by the machine set-up and restores the old one afterwards.
-class CTypeLocale {
-  public:
-    explicit CTypeLocale(char const* name) : m_old(std::setlocale(LC_CTYPE, nullptr)) {
-        m_ok = std::setlocale(LC_CTYPE, name) != nullptr;
-    }
-    ~CTypeLocale() { std::setlocale(LC_CTYPE, m_old.c_str()); }
-    bool Ok() const { return m_ok; }
-
-  private:
-    std::string m_old;
-    bool m_ok;
-};
 
 UStringRef<Local8Bit> Local(std::string const& s) {
     return UStringRef<Local8Bit>(s.data(), s.data() + s.size());
@@ -41,7 +27,7 @@ char const* const latin1 = "de_DE.ISO-8859-1";
 char const* const utf8Locales[] = {"de_DE.UTF-8", "en_US.UTF-8", "fr_CA.UTF-8"};
 
 TEST(LocaleConversion, SingleByteLocale) {
-    CTypeLocale locale(latin1);
+    ScopedCTypeLocale locale(latin1);
     ASSERT_TRUE(locale.Ok()) << latin1 << " must be generated on this machine";
     EXPECT_STREQ("ISO-8859-1", UnixPlatform::IANAEncodingName(Local8Bit()).CString());
 
@@ -67,7 +53,7 @@ TEST(LocaleConversion, SingleByteLocale) {
 
 TEST(LocaleConversion, UTF8Locales) {
     for (char const* name : utf8Locales) {
-        CTypeLocale locale(name);
+        ScopedCTypeLocale locale(name);
         ASSERT_TRUE(locale.Ok()) << name << " must be generated on this machine";
         EXPECT_STREQ("UTF-8", UnixPlatform::IANAEncodingName(Local8Bit()).CString());
 
@@ -98,7 +84,7 @@ TEST(LocaleConversion, UTF8Locales) {
 }
 
 TEST(LocaleConversion, EmbeddedZeroEndsTheTextAndEmptyIsNotNull) {
-    CTypeLocale locale(latin1);
+    ScopedCTypeLocale locale(latin1);
     ASSERT_TRUE(locale.Ok());
     std::vector<UTF32::Unit> wide = {'A', 0xE9, 0, 'B'};
     AutoUString<Local8Bit> local =

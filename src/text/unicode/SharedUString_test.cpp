@@ -13,8 +13,7 @@
 namespace {
 
 SharedUString<UTF8> Shared(std::string const& s) {
-    auto const* b = reinterpret_cast<UTF8::Unit const*>(s.data());
-    return MakeUString(UStringRef<UTF8>(b, b + s.size()));
+    return MakeUString(U8(s));
 }
 
 TEST(SharedUString, CopiesShareAndTheLastHolderFrees) {

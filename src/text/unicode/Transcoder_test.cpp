@@ -5,6 +5,7 @@
 #include <random>
 #include <vector>
 
+#include "testing/Recorders.h"
 #include "text/unicode/StreamTranscoder.h"
 #include "text/unicode/Transcode.h"
 
@@ -13,24 +14,6 @@ namespace {
 typedef std::vector<UTF8::Unit> Bytes;
 typedef std::vector<UTF16::Unit> Words;
 typedef std::vector<UTF32::Unit> Codes;
-
-// Records every call so that tests see the exact chunking.
-template <class E>
-struct Recorder : UTextReceiver<E> {
-    int starts = 0, ends = 0;
-    std::vector<std::vector<typename E::Unit>> chunks;
-
-    void Start(E) override { ++starts; }
-    void Receive(ConstArrayOf<typename E::Unit> chunk) override {
-        chunks.emplace_back(chunk.begin, chunk.end);
-    }
-    void ReceiveEnd() override { ++ends; }
-    std::vector<typename E::Unit> All() const {
-        std::vector<typename E::Unit> all;
-        for (auto const& chunk : chunks) all.insert(all.end(), chunk.begin(), chunk.end());
-        return all;
-    }
-};
 
 void AppendUTF8(Bytes& out, std::uint32_t cp) {
     int length = cp < 0x80 ? 1 : cp < 0x800 ? 2 : cp < 0x10000 ? 3 : 4;
@@ -68,7 +51,7 @@ Codes RandomScalars(std::mt19937& rng, std::size_t count) {
 template <class Target, class Source>
 std::vector<typename Target::Unit> FeedTranscoder(std::vector<typename Source::Unit> const& input,
                                                   std::vector<std::size_t> cuts = {}) {
-    Recorder<Target> recorder;
+    TextRecorder<Target> recorder;
     StreamTranscoder<Target, Source> transcoder(recorder);
     transcoder.Start(Source());
     cuts.push_back(input.size());
@@ -138,7 +121,7 @@ TEST(StreamTranscoder, UTF8DecoderTakesThePayloadOfEveryForm) {
 // input's size when ReceiveEnd threw, or -1; output gets what reached the target.
 template <class Source>
 int ThrowingUnit(std::vector<typename Source::Unit> const& input, Codes& output) {
-    Recorder<UTF32> recorder;
+    TextRecorder<UTF32> recorder;
     StreamTranscoder<UTF32, Source> transcoder(recorder);
     transcoder.Start(Source());
     int index = 0;
@@ -197,7 +180,7 @@ TEST(StreamTranscoder, BadChunkSendsNothingStagedButKeepsEarlierFlushes) {
     // is found, and must not reach the target.
     Bytes input(5004, 'a');
     input[5000] = 0xC3;
-    Recorder<UTF32> recorder;
+    TextRecorder<UTF32> recorder;
     StreamTranscoder<UTF32, UTF8> transcoder(recorder);
     transcoder.Start(UTF8());
     EXPECT_THROW(transcoder.Receive(ConstArrayOf<UTF8::Unit>(&input[0], &input[0] + input.size())),
@@ -230,7 +213,7 @@ TEST(StreamTranscoder, SevenBitSourcesRejectTheHighBit) {
     }
     // A chunk is checked whole before any of it is forwarded.
     Bytes clean = {'a', 'b', 'c'}, dirty = {'d', 'e', 0x80};
-    Recorder<UTF8> recorder;
+    TextRecorder<UTF8> recorder;
     StreamTranscoder<UTF8, USAscii> transcoder(recorder);
     transcoder.Receive(ConstArrayOf<USAscii::Unit>(&clean[0], &clean[0] + 3));
     EXPECT_THROW(transcoder.Receive(ConstArrayOf<USAscii::Unit>(&dirty[0], &dirty[0] + 3)),
@@ -243,7 +226,7 @@ TEST(StreamTranscoder, SevenBitSourcesRejectTheHighBit) {
 template <class Target, class Source>
 std::vector<typename Target::Unit> FeedWhole(std::vector<typename Source::Unit> const& input,
                                              std::size_t longest) {
-    Recorder<Target> recorder;
+    TextRecorder<Target> recorder;
     StreamTranscoder<Target, Source> transcoder(recorder);
     transcoder.Receive(ConstArrayOf<typename Source::Unit>(&input[0], &input[0] + input.size()));
     std::size_t const capacity = 4096 / sizeof(typename Target::Unit);
