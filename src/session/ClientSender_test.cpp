@@ -12,6 +12,7 @@
 #include "session/DecisionDocuments.h"
 #include "session/SendErrorToClient.h"
 #include "session/SessionState.h"
+#include "testing/TestText.h"
 
 namespace {
 
@@ -19,10 +20,7 @@ std::vector<std::string> TakeWriteQueue() {
     FiFoQueue<UIMessage> batch;
     writeQ.ReadMessages(batch);
     std::vector<std::string> texts;
-    while (!batch.IsEmpty()) {
-        UIMessage message = batch.TakeFirst();
-        texts.emplace_back(reinterpret_cast<char const*>(message.m_text.begin), message.Length());
-    }
+    while (!batch.IsEmpty()) texts.push_back(Str(batch.TakeFirst().m_text));
     return texts;
 }
 

@@ -39,16 +39,6 @@ struct Pending {
     long long deadlineFromNow;  // microseconds; noDeadline for none
 };
 
-struct TickCase {
-    char const* what;
-    std::vector<Pending> before;
-    bool quiet;
-    long long postponedFromNow;  // m_postponedTo relative to now
-    std::vector<std::string> calls;
-    std::vector<unsigned long long> answered;
-    std::vector<unsigned long long> after;
-};
-
 std::string const show = "ShowActionRequestDialog(false, 600000000, true)";
 std::string const removeTimedOut = "RemoveTimedoutMessageDialogs()";
 std::string const update = "UpdateActionRequestDialog()";
@@ -74,19 +64,24 @@ class PendingActionsTickTest : public ::testing::Test {
         return action;
     }
 
-    void Run(TickCase const& c) {
-        SCOPED_TRACE(c.what);
+    // One tick with the actions pending, quiet mode on or off and m_postponedTo relative to
+    // now: the dialog calls, the IDs answered and the actions left.
+    void Run(char const* what, std::vector<Pending> const& before, bool quiet,
+             long long postponedFromNow, std::vector<std::string> const& calls,
+             std::vector<unsigned long long> const& answered,
+             std::vector<unsigned long long> const& after) {
+        SCOPED_TRACE(what);
         Reset();
         Instant const now = Instant::Now();
-        for (Pending const& pending : c.before) actions.push_back(MakeAction(pending, now));
-        inQuietMode = c.quiet;
-        m_postponedTo = now + TimeInterval(c.postponedFromNow);
+        for (Pending const& pending : before) actions.push_back(MakeAction(pending, now));
+        inQuietMode = quiet;
+        m_postponedTo = now + TimeInterval(postponedFromNow);
         TickPendingActions();
-        EXPECT_EQ(RecordingDialogs::Calls(), c.calls);
-        EXPECT_EQ(TakeAnsweredIDs(), c.answered);
+        EXPECT_EQ(RecordingDialogs::Calls(), calls);
+        EXPECT_EQ(TakeAnsweredIDs(), answered);
         std::vector<unsigned long long> ids;
         for (ActionRequest const& action : actions) ids.push_back(action.m_id);
-        EXPECT_EQ(ids, c.after);
+        EXPECT_EQ(ids, after);
     }
 };
 
@@ -94,72 +89,25 @@ class PendingActionsTickTest : public ::testing::Test {
 
 TEST_F(PendingActionsTickTest, OneTick) {
     long long const longPast = -3600 * 1000000LL;
-    TickCase const cases[] = {
-        {"an expired binding deadline is answered and the dialog refreshed",
-         {{1, true, -10 * 1000000LL}},
-         false,
-         longPast,
-         {show, removeTimedOut, update},
-         {1},
-         {}},
-        {"without ForceRun nothing expires, however late",
-         {{1, false, -24 * 60 * minute}},
-         false,
-         longPast,
-         {show, removeTimedOut},
-         {},
-         {1}},
-        {"ForceRun without a deadline stays",
-         {{1, true, noDeadline}},
-         false,
-         longPast,
-         {show, removeTimedOut},
-         {},
-         {1}},
-        {"a deadline under five minutes away refreshes the dialog every tick",
-         {{1, true, 2 * minute}},
-         false,
-         longPast,
-         {show, removeTimedOut, update},
-         {},
-         {1}},
-        {"a deadline an hour away changes nothing",
-         {{1, true, 60 * minute}},
-         false,
-         longPast,
-         {show, removeTimedOut},
-         {},
-         {1}},
-        {"removals leave no gap: adjacent expired actions go on the same tick",
-         {{1, true, -minute}, {2, true, -2 * minute}, {3, false, -minute}, {4, true, -minute}},
-         false,
-         longPast,
-         {show, removeTimedOut, update},
-         {1, 2, 4},
-         {3}},
-        {"in quiet mode nothing expires",
-         {{1, true, -minute}},
-         true,
-         longPast,
-         {show, removeTimedOut},
-         {},
-         {1}},
-        {"while postponed the dialog stays away, and deadlines still run",
-         {{1, true, -minute}},
-         false,
-         10 * minute,
-         {removeTimedOut, update},
-         {1},
-         {}},
-        {"with nothing pending the dialog is not brought up",
-         {},
-         false,
-         longPast,
-         {removeTimedOut},
-         {},
-         {}},
-    };
-    for (TickCase const& c : cases) Run(c);
+    Run("an expired binding deadline is answered and the dialog refreshed",
+        {{1, true, -10 * 1000000LL}}, false, longPast, {show, removeTimedOut, update}, {1}, {});
+    Run("without ForceRun nothing expires, however late", {{1, false, -24 * 60 * minute}}, false,
+        longPast, {show, removeTimedOut}, {}, {1});
+    Run("ForceRun without a deadline stays", {{1, true, noDeadline}}, false, longPast,
+        {show, removeTimedOut}, {}, {1});
+    Run("a deadline under five minutes away refreshes the dialog every tick",
+        {{1, true, 2 * minute}}, false, longPast, {show, removeTimedOut, update}, {}, {1});
+    Run("a deadline an hour away changes nothing", {{1, true, 60 * minute}}, false, longPast,
+        {show, removeTimedOut}, {}, {1});
+    Run("removals leave no gap: adjacent expired actions go on the same tick",
+        {{1, true, -minute}, {2, true, -2 * minute}, {3, false, -minute}, {4, true, -minute}},
+        false, longPast, {show, removeTimedOut, update}, {1, 2, 4}, {3});
+    Run("in quiet mode nothing expires", {{1, true, -minute}}, true, longPast,
+        {show, removeTimedOut}, {}, {1});
+    Run("while postponed the dialog stays away, and deadlines still run", {{1, true, -minute}},
+        false, 10 * minute, {removeTimedOut, update}, {1}, {});
+    Run("with nothing pending the dialog is not brought up", {}, false, longPast, {removeTimedOut},
+        {}, {});
 }
 
 // The agent's quiet mode, through its documents: an action that expired during it is answered

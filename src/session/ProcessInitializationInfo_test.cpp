@@ -24,6 +24,19 @@ FileTransfer File(char const* name, std::string const& bytes, char const* subFol
     return FileTransfer(bytes, FileName(name), *subFolder ? FileName(subFolder) : FileName());
 }
 
+// One support file of a row: its name, its sub-folder, and what it would answer if added.
+struct Offered {
+    char const* name;
+    char const* subFolder;
+    enum { brand, general } kind;
+};
+auto const brand = Offered::brand;
+auto const general = Offered::general;
+
+std::string Rendered(std::string const& key) {
+    return Str(UStringRef<UTF8>(MakeUString(UFormat(key.c_str()))));
+}
+
 class ProcessInitializationInfoTest : public TemporaryDirectory {
   protected:
     void SetUp() override {
@@ -51,7 +64,44 @@ class ProcessInitializationInfoTest : public TemporaryDirectory {
         return record.st_mode & 07777;
     }
 
+    // Sets a session up with LANG set (LC_ALL and LC_CTYPE unset) and the files offered, and
+    // checks which brand and general file count ("" for none) and whether the session is
+    // international. Every file answers "<row> which" with its own name; brand files also
+    // answer "<row> brand", general ones "<row> general". The context is process-wide and
+    // keeps what was added before, so each row has keys of its own.
+    void Row(char const* what, char const* lang, bool useLocale, std::vector<Offered> const& files,
+             char const* brandTaken, char const* generalTaken, bool isInternational) {
+        SCOPED_TRACE(what);
+        std::string const key = "row " + std::to_string(++m_row);
+        ScopedCTypeLocale const restoreLocale("C");
+        ScopedEnvironment const all("LC_ALL", nullptr), ctype("LC_CTYPE", nullptr),
+            language("LANG", lang);
+        initialized = false;
+        international = false;
+        InitializationInfo info = Info("session" + std::to_string(m_row));
+        info.m_settings.m_useLocale = useLocale;
+        for (Offered const& file : files) {
+            std::string const text = key + " which\t" + file.name + "\n" + key +
+                                     (file.kind == brand ? " brand\t" : " general\t") + file.name +
+                                     "\n";
+            info.m_supportFiles.push_back(File(file.name, text, file.subFolder));
+        }
+        ProcessInitializationInfo(info);
+        EXPECT_TRUE(initialized);
+        EXPECT_EQ(international, isInternational);
+        for (Offered const& file : files)
+            EXPECT_TRUE(Exists(Path("session" + std::to_string(m_row) + "/" + file.name)));
+
+        EXPECT_EQ(Rendered(key + " brand"), *brandTaken ? brandTaken : key + " brand");
+        EXPECT_EQ(Rendered(key + " general"), *generalTaken ? generalTaken : key + " general");
+        std::string const asked = *generalTaken ? generalTaken
+                                  : *brandTaken ? brandTaken
+                                                : key + " which";
+        EXPECT_EQ(Rendered(key + " which"), asked) << "the general file is asked first";
+    }
+
     mode_t m_oldMask = 0;
+    int m_row = 0;
 };
 
 }  // namespace
@@ -166,129 +216,35 @@ TEST_F(ProcessInitializationInfoTest, SupportFileContentRoundTripsAsOneBase64Lin
     EXPECT_EQ(read.m_content, sent.m_content);
 }
 
-namespace {
-
-// One support file of a row: its name, its sub-folder, and what it would answer if added.
-struct Offered {
-    char const* name;
-    char const* subFolder;
-    enum { brand, general } kind;
-};
-
-struct TranslationCase {
-    char const* what;
-    char const* lang;  // LANG, with LC_ALL and LC_CTYPE unset
-    bool useLocale;
-    std::vector<Offered> files;
-    char const* brandTaken;    // name of the brand file that counts, or ""
-    char const* generalTaken;  // name of the general file that counts, or ""
-    bool international;
-};
-
-// Every file of a row answers "<row> which" with its own name; brand files also answer
-// "<row> brand", general ones "<row> general". The context is process-wide and keeps what was
-// added before, so each row has keys of its own.
-std::string RowText(std::size_t row, Offered const& file) {
-    std::string const key = "row " + std::to_string(row);
-    return key + " which\t" + file.name + "\n" + key +
-           (file.kind == Offered::brand ? " brand\t" : " general\t") + file.name + "\n";
-}
-
-std::string Rendered(std::string const& key) {
-    return Str(UStringRef<UTF8>(MakeUString(UFormat(key.c_str()))));
-}
-
-}  // namespace
-
 TEST_F(ProcessInitializationInfoTest, TranslationFilesAreChosenByTheLocaleBrandFirst) {
-    auto const brand = Offered::brand;
-    auto const general = Offered::general;
-    std::vector<TranslationCase> const cases = {
-        {"without the locale only the plain brand file counts",
-         "fr_CA.UTF-8",
-         false,
-         {{"_brand.xlat", "", brand},
-          {"_brandfr.xlat", "", brand},
-          {"fr.xlat", "", general},
-          {"fr_CA.xlat", "", general}},
-         "_brand.xlat",
-         "",
-         false},
-        {"the full locale before the language, names in any case",
-         "fr_CA.UTF-8",
-         true,
-         {{"_brand.xlat", "", brand},
-          {"_brandfr.xlat", "", brand},
-          {"_BRANDfr_ca.xlat", "", brand},
-          {"fr.xlat", "", general},
-          {"FR_ca.XLAT", "", general}},
-         "_BRANDfr_ca.xlat",
-         "FR_ca.XLAT",
-         true},
-        {"the language when the full locale has no file; the plain brand file is then not added",
-         "fr_CA.UTF-8",
-         true,
-         {{"_brand.xlat", "", brand}, {"_brandfr.xlat", "", brand}, {"Fr.xlat", "", general}},
-         "_brandfr.xlat",
-         "Fr.xlat",
-         true},
-        {"a file in a sub-folder is never chosen",
-         "fr_CA.UTF-8",
-         true,
-         {{"_brand.xlat", "x", brand}, {"fr_CA.xlat", "x", general}, {"fr.xlat", "", general}},
-         "",
-         "fr.xlat",
-         true},
-        {"a locale name without a character set",
-         "de_DE",
-         true,
-         {{"_brand.xlat", "", brand}, {"de.xlat", "", general}, {"DE_de.xlat", "", general}},
-         "_brand.xlat",
-         "DE_de.xlat",
-         true},
-        {"the plain locale is not international and chooses nothing by name",
-         "C",
-         true,
-         {{"_brandC.xlat", "", brand}, {"C.xlat", "", general}},
-         "",
-         "",
-         false},
-        {"the default locale",
-         nullptr,
-         true,
-         {{"_brand.xlat", "", brand}, {"POSIX.xlat", "", general}, {"C.xlat", "", general}},
-         "_brand.xlat",
-         "",
-         false},
-    };
-    for (std::size_t row = 0; row < cases.size(); ++row) {
-        TranslationCase const& c = cases[row];
-        SCOPED_TRACE(c.what);
-        ScopedCTypeLocale const restoreLocale("C");
-        ScopedEnvironment const all("LC_ALL", nullptr), ctype("LC_CTYPE", nullptr),
-            lang("LANG", c.lang);
-        initialized = false;
-        international = false;
-        InitializationInfo info = Info("session" + std::to_string(row));
-        info.m_settings.m_useLocale = c.useLocale;
-        for (Offered const& file : c.files)
-            info.m_supportFiles.push_back(File(file.name, RowText(row, file), file.subFolder));
-        ProcessInitializationInfo(info);
-        EXPECT_TRUE(initialized);
-        EXPECT_EQ(international, c.international);
-        for (Offered const& file : c.files)
-            EXPECT_TRUE(Exists(Path("session" + std::to_string(row) + "/" + file.name)));
-
-        std::string const key = "row " + std::to_string(row);
-        std::string const brandTaken = *c.brandTaken ? c.brandTaken : key + " brand";
-        std::string const generalTaken = *c.generalTaken ? c.generalTaken : key + " general";
-        EXPECT_EQ(Rendered(key + " brand"), brandTaken);
-        EXPECT_EQ(Rendered(key + " general"), generalTaken);
-        std::string const asked = *c.generalTaken ? c.generalTaken
-                                  : *c.brandTaken ? c.brandTaken
-                                                  : key + " which";
-        EXPECT_EQ(Rendered(key + " which"), asked) << "the general file is asked first";
-    }
+    Row("without the locale only the plain brand file counts", "fr_CA.UTF-8", false,
+        {{"_brand.xlat", "", brand},
+         {"_brandfr.xlat", "", brand},
+         {"fr.xlat", "", general},
+         {"fr_CA.xlat", "", general}},
+        "_brand.xlat", "", false);
+    Row("the full locale before the language, names in any case", "fr_CA.UTF-8", true,
+        {{"_brand.xlat", "", brand},
+         {"_brandfr.xlat", "", brand},
+         {"_BRANDfr_ca.xlat", "", brand},
+         {"fr.xlat", "", general},
+         {"FR_ca.XLAT", "", general}},
+        "_BRANDfr_ca.xlat", "FR_ca.XLAT", true);
+    Row("the language when the full locale has no file; the plain brand file is then not added",
+        "fr_CA.UTF-8", true,
+        {{"_brand.xlat", "", brand}, {"_brandfr.xlat", "", brand}, {"Fr.xlat", "", general}},
+        "_brandfr.xlat", "Fr.xlat", true);
+    Row("a file in a sub-folder is never chosen", "fr_CA.UTF-8", true,
+        {{"_brand.xlat", "x", brand}, {"fr_CA.xlat", "x", general}, {"fr.xlat", "", general}}, "",
+        "fr.xlat", true);
+    Row("a locale name without a character set", "de_DE", true,
+        {{"_brand.xlat", "", brand}, {"de.xlat", "", general}, {"DE_de.xlat", "", general}},
+        "_brand.xlat", "DE_de.xlat", true);
+    Row("the plain locale is not international and chooses nothing by name", "C", true,
+        {{"_brandC.xlat", "", brand}, {"C.xlat", "", general}}, "", "", false);
+    Row("the default locale", nullptr, true,
+        {{"_brand.xlat", "", brand}, {"POSIX.xlat", "", general}, {"C.xlat", "", general}},
+        "_brand.xlat", "", false);
 }
 
 TEST_F(ProcessInitializationInfoTest, AnUnknownLocaleFailsTheSetUpAfterTheFilesAreWritten) {

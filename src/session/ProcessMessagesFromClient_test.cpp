@@ -45,18 +45,6 @@ std::string const quietStart =
     "Mar 2000 09:00:00 +0100</EndTime></QuietModeStart>";
 std::string const quietDialog = "ShowQuietModeDialog(952153200000000, 952156800000000)";
 
-struct Case {
-    char const* what;
-    std::vector<std::vector<std::string>> frames;  // what arrives before each call, by call
-    std::vector<unsigned long long> actionsBefore;
-    bool initializedBefore;
-    std::vector<bool> dialogShown;   // successive answers of IsActionRequestDialogShown
-    char const* failingCall;         // a dialog call that throws, or ""
-    std::vector<std::string> calls;  // the dialog calls, with "-- tick" after each call
-    std::vector<unsigned long long> actionsAfter;
-    bool quietAfter;
-};
-
 class ProcessMessagesFromClientTest : public TemporaryDirectory {
   protected:
     void SetUp() override {
@@ -73,36 +61,45 @@ class ProcessMessagesFromClientTest : public TemporaryDirectory {
         readQ.WriteMessage(message);
     }
 
-    void Run(Case const& c) {
-        SCOPED_TRACE(c.what);
+    // One case: what arrives before each call, the dialog calls (with "-- tick" after each
+    // call) and the actions left; then the actions pending before, whether a first document
+    // was taken before, the successive answers of IsActionRequestDialogShown, a dialog call
+    // that throws (or ""), and whether quiet mode is on afterwards.
+    void Run(char const* what, std::vector<std::vector<std::string>> const& frames,
+             std::vector<std::string> const& expectedCalls,
+             std::vector<unsigned long long> const& actionsAfter,
+             std::vector<unsigned long long> const& actionsBefore = {},
+             bool initializedBefore = true, std::vector<bool> const& dialogShown = {},
+             char const* failingCall = "", bool quietAfter = false) {
+        SCOPED_TRACE(what);
         actions.clear();
-        for (unsigned long long id : c.actionsBefore) {
+        for (unsigned long long id : actionsBefore) {
             ActionRequest action;
             action.m_id = id;
             actions.push_back(action);
         }
-        initialized = c.initializedBefore;
+        initialized = initializedBefore;
         inQuietMode = false;
         m_remindInterval = TimeInterval(600000000);
         m_snoozable = true;
         RecordingDialogs::Reset();
-        RecordingDialogs::ScriptDialogShown(c.dialogShown, false);
-        if (*c.failingCall) RecordingDialogs::FailOn(c.failingCall);
+        RecordingDialogs::ScriptDialogShown(dialogShown, false);
+        if (*failingCall) RecordingDialogs::FailOn(failingCall);
 
         std::vector<std::string> calls;
-        for (std::vector<std::string> const& frames : c.frames) {
-            for (std::string const& frame : frames) Send(frame);
+        for (std::vector<std::string> const& batch : frames) {
+            for (std::string const& frame : batch) Send(frame);
             std::size_t const before = RecordingDialogs::Calls().size();
             ProcessMessagesFromClient();
             std::vector<std::string> const& all = RecordingDialogs::Calls();
             calls.insert(calls.end(), all.begin() + static_cast<long>(before), all.end());
             calls.push_back(tick);
         }
-        EXPECT_EQ(calls, c.calls);
+        EXPECT_EQ(calls, expectedCalls);
         std::vector<unsigned long long> ids;
         for (ActionRequest const& action : actions) ids.push_back(action.m_id);
-        EXPECT_EQ(ids, c.actionsAfter);
-        EXPECT_EQ(inQuietMode, c.quietAfter);
+        EXPECT_EQ(ids, actionsAfter);
+        EXPECT_EQ(inQuietMode, quietAfter);
         EXPECT_TRUE(initialized) << "every case ends initialized";
     }
 };
@@ -110,196 +107,65 @@ class ProcessMessagesFromClientTest : public TemporaryDirectory {
 }  // namespace
 
 TEST_F(ProcessMessagesFromClientTest, DispatchOfEachMessage) {
-    Case const cases[] = {
-        {"two actions in one document: an update and a show after each",
-         {{Document(Action(1) + Action(2))}},
-         {},
-         true,
-         {},
-         "",
-         {update, show, update, show, tick},
-         {1, 2},
-         false},
-        {"a second request with a known ID stands beside the first",
-         {{Document(Action(1)), Document(Action(1))}},
-         {},
-         true,
-         {},
-         "",
-         {update, show, update, show, tick},
-         {1, 1},
-         false},
-        {"a removal then a bad message: the removal stays, the rest of the batch is lost",
-         {{Document(Remove(5, "Action") +
-                    "<MessageRequest><ID>7</ID><Timeout></Timeout></MessageRequest>" + Action(8)),
-           Document(Action(9))},
-          {Document(Action(10))}},
-         {4, 5},
-         true,
-         {},
-         "",
-         {update, tick, update, show, tick},
-         {4, 10},
-         false},
-        {"the first document and an action in one document: the action is lost",
-         {{Document(initialization + Action(1))}, {}},
-         {},
-         false,
-         {},
-         "",
-         {tick, tick},
-         {},
-         false},
-        {"the first document and an action in two frames: the action waits for the next call",
-         {{Document(initialization), Document(Action(1))}, {Document(Action(2))}, {}},
-         {},
-         false,
-         {},
-         "",
-         {tick, update, show, tick, update, show, tick},
-         {1, 2},
-         false},
-        {"documents before the first one are dispatched as usual",
-         {{Document(Action(1))}, {Document(initialization)}},
-         {},
-         false,
-         {},
-         "",
-         {update, show, tick, tick},
-         {1},
-         false},
-        {"a second first document is skipped, the rest of it handled",
-         {{Document(initialization + Action(1))}},
-         {},
-         true,
-         {},
-         "",
-         {update, show, tick},
-         {1},
-         false},
-        {"\"action\" in lower case acts as All, on the first match only",
-         {{Document(Remove(5, "action"))}},
-         {5, 6, 5},
-         true,
-         {},
-         "",
-         {update, "RemoveMessageDialog(5)", tick},
-         {6, 5},
-         false},
-        {"Offer does nothing at all",
-         {{Document(Remove(5, "Offer"))}},
-         {5},
-         true,
-         {},
-         "",
-         {tick},
-         {5},
-         false},
-        {"Message removes only the message dialog",
-         {{Document(Remove(5, "Message"))}},
-         {5},
-         true,
-         {},
-         "",
-         {"RemoveMessageDialog(5)", tick},
-         {5},
-         false},
-        {"an unknown ID is no error",
-         {{Document(Remove(9, "Action"))}},
-         {5},
-         true,
-         {},
-         "",
-         {update, tick},
-         {5},
-         false},
-        {"a message goes to its own dialog",
-         {{Document("<MessageRequest><Title>T</Title><Message>M</Message><ID>7</ID><Timeout>"
-                    "PT30S</Timeout></MessageRequest>")}},
-         {},
-         true,
-         {},
-         "",
-         {"ShowMessageDialog(7, \"T\", \"M\", false, 30000000)", tick},
-         {},
-         false},
-        {"quiet mode starting while no action dialog is shown shows nothing",
-         {{Document(quietStart)}},
-         {},
-         true,
-         {false},
-         "",
-         {"IsActionRequestDialogShown() = false", tick},
-         {},
-         true},
-        {"quiet mode starting while the action dialog is shown",
-         {{Document(quietStart)}},
-         {},
-         true,
-         {true},
-         "",
-         {"IsActionRequestDialogShown() = true", quietDialog, "DisableActionRequestDialog()", tick},
-         {},
-         true},
-        {"a start whose times cannot be read still switches quiet mode on",
-         {{Document("<QuietModeStart><StartTime>soon</StartTime></QuietModeStart>" + Action(1))}},
-         {},
-         true,
-         {true},
-         "",
-         {tick},
-         {},
-         true},
-        {"quiet mode ending while the action dialog is shown",
-         {{Document(quietStart), Document("<QuietModeEnd>ignored</QuietModeEnd>")}},
-         {},
-         true,
-         {true, true},
-         "",
-         {"IsActionRequestDialogShown() = true", quietDialog, "DisableActionRequestDialog()",
-          "RemoveQuietModeDialog()", "IsActionRequestDialogShown() = true", update,
-          "EnableActionRequestDialog()", tick},
-         {},
-         false},
-        {"quiet mode ending without a start",
-         {{Document("<QuietModeEnd></QuietModeEnd>")}},
-         {},
-         true,
-         {false},
-         "",
-         {"RemoveQuietModeDialog()", "IsActionRequestDialogShown() = false", tick},
-         {},
-         false},
-        {"empty frames are skipped, unknown and misspelt children ignored, the root not looked at",
-         {{"", Document("<Foo>1</Foo><actionrequest><ID>3</ID></actionrequest>"),
-           "<AnyRoot>" + Action(1) + "</AnyRoot>", Document("")}},
-         {},
-         true,
-         {},
-         "",
-         {update, show, tick},
-         {1},
-         false},
-        {"a frame without any element costs the rest of its batch, not later frames",
-         {{Document(Action(1)), "no element here", Document(Action(2))}, {Document(Action(3))}},
-         {},
-         true,
-         {},
-         "",
-         {update, show, tick, update, show, tick},
-         {1, 3},
-         false},
-        {"a failing dialog call costs the rest of the batch; what it did stays",
-         {{Document(Action(1) + Action(2)), Document(Action(3))}, {Document(Action(4))}},
-         {},
-         true,
-         {},
-         "ShowActionRequestDialog",
-         {update, show, tick, update, show, tick},
-         {1, 4},
-         false},
-    };
-    for (Case const& c : cases) Run(c);
+    Run("two actions in one document: an update and a show after each",
+        {{Document(Action(1) + Action(2))}}, {update, show, update, show, tick}, {1, 2});
+    Run("a second request with a known ID stands beside the first",
+        {{Document(Action(1)), Document(Action(1))}}, {update, show, update, show, tick}, {1, 1});
+    Run("a removal then a bad message: the removal stays, the rest of the batch is lost",
+        {{Document(Remove(5, "Action") +
+                   "<MessageRequest><ID>7</ID><Timeout></Timeout></MessageRequest>" + Action(8)),
+          Document(Action(9))},
+         {Document(Action(10))}},
+        {update, tick, update, show, tick}, {4, 10}, {4, 5});
+    Run("the first document and an action in one document: the action is lost",
+        {{Document(initialization + Action(1))}, {}}, {tick, tick}, {}, {}, false);
+    Run("the first document and an action in two frames: the action waits for the next call",
+        {{Document(initialization), Document(Action(1))}, {Document(Action(2))}, {}},
+        {tick, update, show, tick, update, show, tick}, {1, 2}, {}, false);
+    Run("documents before the first one are dispatched as usual",
+        {{Document(Action(1))}, {Document(initialization)}}, {update, show, tick, tick}, {1}, {},
+        false);
+    Run("a second first document is skipped, the rest of it handled",
+        {{Document(initialization + Action(1))}}, {update, show, tick}, {1});
+    Run("\"action\" in lower case acts as All, on the first match only",
+        {{Document(Remove(5, "action"))}}, {update, "RemoveMessageDialog(5)", tick}, {6, 5},
+        {5, 6, 5});
+    Run("Offer does nothing at all", {{Document(Remove(5, "Offer"))}}, {tick}, {5}, {5});
+    Run("Message removes only the message dialog", {{Document(Remove(5, "Message"))}},
+        {"RemoveMessageDialog(5)", tick}, {5}, {5});
+    Run("an unknown ID is no error", {{Document(Remove(9, "Action"))}}, {update, tick}, {5}, {5});
+    Run("a message goes to its own dialog",
+        {{Document("<MessageRequest><Title>T</Title><Message>M</Message><ID>7</ID><Timeout>"
+                   "PT30S</Timeout></MessageRequest>")}},
+        {"ShowMessageDialog(7, \"T\", \"M\", false, 30000000)", tick}, {});
+    Run("quiet mode starting while no action dialog is shown shows nothing",
+        {{Document(quietStart)}}, {"IsActionRequestDialogShown() = false", tick}, {}, {}, true,
+        {false}, "", true);
+    Run("quiet mode starting while the action dialog is shown", {{Document(quietStart)}},
+        {"IsActionRequestDialogShown() = true", quietDialog, "DisableActionRequestDialog()", tick},
+        {}, {}, true, {true}, "", true);
+    Run("a start whose times cannot be read still switches quiet mode on",
+        {{Document("<QuietModeStart><StartTime>soon</StartTime></QuietModeStart>" + Action(1))}},
+        {tick}, {}, {}, true, {true}, "", true);
+    Run("quiet mode ending while the action dialog is shown",
+        {{Document(quietStart), Document("<QuietModeEnd>ignored</QuietModeEnd>")}},
+        {"IsActionRequestDialogShown() = true", quietDialog, "DisableActionRequestDialog()",
+         "RemoveQuietModeDialog()", "IsActionRequestDialogShown() = true", update,
+         "EnableActionRequestDialog()", tick},
+        {}, {}, true, {true, true});
+    Run("quiet mode ending without a start", {{Document("<QuietModeEnd></QuietModeEnd>")}},
+        {"RemoveQuietModeDialog()", "IsActionRequestDialogShown() = false", tick}, {}, {}, true,
+        {false});
+    Run("empty frames are skipped, unknown and misspelt children ignored, the root not looked at",
+        {{"", Document("<Foo>1</Foo><actionrequest><ID>3</ID></actionrequest>"),
+          "<AnyRoot>" + Action(1) + "</AnyRoot>", Document("")}},
+        {update, show, tick}, {1});
+    Run("a frame without any element costs the rest of its batch, not later frames",
+        {{Document(Action(1)), "no element here", Document(Action(2))}, {Document(Action(3))}},
+        {update, show, tick, update, show, tick}, {1, 3});
+    Run("a failing dialog call costs the rest of the batch; what it did stays",
+        {{Document(Action(1) + Action(2)), Document(Action(3))}, {Document(Action(4))}},
+        {update, show, tick, update, show, tick}, {1, 4}, {}, true, {}, "ShowActionRequestDialog");
 }
 
 // A first document that cannot be processed costs its batch and leaves the process waiting

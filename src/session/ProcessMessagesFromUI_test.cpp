@@ -11,8 +11,8 @@
 #include "session/SessionState.h"
 #include "testing/RecordingDialogs.h"
 #include "testing/TestText.h"
+#include "time/TextToTime.h"
 #include "xml/SimpleXMLParse.h"
-#include "xml/XMLLoad.h"
 
 namespace {
 
@@ -63,20 +63,8 @@ struct Pending {
 struct Queued {
     UICommandType command;
     unsigned long long actionID;
-    long minutes;
-    long long seconds;
-};
-
-struct CommandCase {
-    char const* what;
-    std::vector<Pending> before;
-    std::vector<std::vector<Queued>> ticks;  // the commands queued before each call
-    char const* failingCall;                 // a dialog call that throws, or ""
-    std::vector<std::string> calls;          // the dialog calls, with "-- tick" after each call
-    std::vector<std::string> documents;
-    std::vector<unsigned long long> after;
-    long long postponedTo;     // m_postponedTo afterwards in microseconds; it starts at 0
-    long long remindInterval;  // m_remindInterval afterwards; it starts at 10 minutes
+    long minutes = 0;
+    long long seconds = 0;
 };
 
 long long const tenMinutes = 600000000;
@@ -98,10 +86,19 @@ class ProcessMessagesFromUITest : public ::testing::Test {
         RecordingDialogs::Reset();
     }
 
-    void Run(CommandCase const& c) {
-        SCOPED_TRACE(c.what);
+    // One case: the actions pending before, the commands queued before each call, the dialog
+    // calls (with "-- tick" after each call), the documents sent and the actions left; then a
+    // dialog call that throws (or ""), and m_postponedTo and m_remindInterval afterwards in
+    // microseconds (they start at 0 and ten minutes).
+    void Run(char const* what, std::vector<Pending> const& before,
+             std::vector<std::vector<Queued>> const& ticks,
+             std::vector<std::string> const& expectedCalls,
+             std::vector<std::string> const& documents,
+             std::vector<unsigned long long> const& after, char const* failingCall = "",
+             long long postponedTo = 0, long long remindInterval = tenMinutes) {
+        SCOPED_TRACE(what);
         SetUp();
-        for (Pending const& pending : c.before) {
+        for (Pending const& pending : before) {
             ActionRequest action;
             action.m_id = pending.id;
             if (pending.preActionMessage)
@@ -109,249 +106,111 @@ class ProcessMessagesFromUITest : public ::testing::Test {
                     SharedUString<UTF8>(MakeUString(U8(pending.preActionMessage)));
             actions.push_back(action);
         }
-        if (*c.failingCall) RecordingDialogs::FailOn(c.failingCall);
+        if (*failingCall) RecordingDialogs::FailOn(failingCall);
 
         std::vector<std::string> calls;
-        for (std::vector<Queued> const& commands : c.ticks) {
+        for (std::vector<Queued> const& commands : ticks) {
             for (Queued const& q : commands)
                 QueueCommand(q.command, q.actionID, q.minutes, q.seconds);
-            std::size_t const before = RecordingDialogs::Calls().size();
+            std::size_t const already = RecordingDialogs::Calls().size();
             ProcessMessagesFromUI();
             std::vector<std::string> const& all = RecordingDialogs::Calls();
-            calls.insert(calls.end(), all.begin() + static_cast<long>(before), all.end());
+            calls.insert(calls.end(), all.begin() + static_cast<long>(already), all.end());
             calls.push_back(tick);
             EXPECT_TRUE(uiCommandQ.IsEmpty());
         }
-        EXPECT_EQ(calls, c.calls);
-        EXPECT_EQ(TakeSentDecisions(), c.documents);
+        EXPECT_EQ(calls, expectedCalls);
+        EXPECT_EQ(TakeSentDecisions(), documents);
         std::vector<unsigned long long> ids;
         for (ActionRequest const& action : actions) ids.push_back(action.m_id);
-        EXPECT_EQ(ids, c.after);
-        EXPECT_EQ(m_postponedTo.Microseconds(), c.postponedTo);
-        EXPECT_EQ(m_remindInterval.Microseconds(), c.remindInterval);
+        EXPECT_EQ(ids, after);
+        EXPECT_EQ(m_postponedTo.Microseconds(), postponedTo);
+        EXPECT_EQ(m_remindInterval.Microseconds(), remindInterval);
     }
 };
 
 }  // namespace
 
 TEST_F(ProcessMessagesFromUITest, EveryCommand) {
-    CommandCase const cases[] = {
-        {"take without a message answers at once",
-         {{1, nullptr}, {2, nullptr}},
-         {{{UICommandTake, 2, 0, 0}}},
-         "",
-         {update, enable, tick},
-         {Taken(2)},
-         {1},
-         0,
-         tenMinutes},
-        {"take with a message waits for the confirmation, and acceptance answers it",
-         {{1, "Save your work"}},
-         {{{UICommandTake, 1, 0, 0}}, {{UICommandConfirmationAccepted, 1, 0, 0}}},
-         "",
-         {Confirm(1), tick, update, enable, tick},
-         {Taken(1)},
-         {},
-         0,
-         tenMinutes},
-        {"take with a message, rejected: nothing goes out and the action stays",
-         {{1, "Save your work"}},
-         {{{UICommandTake, 1, 0, 0}}, {{UICommandConfirmationRejected, 1, 0, 0}}},
-         "",
-         {Confirm(1), tick, enable, tick},
-         {},
-         {1},
-         0,
-         tenMinutes},
-        {"an empty message is still a message to confirm",
-         {{3, ""}},
-         {{{UICommandTake, 3, 0, 0}}},
-         "",
-         {Confirm(3), tick},
-         {},
-         {3},
-         0,
-         tenMinutes},
-        {"take of an unknown action only enables the dialog",
-         {{1, nullptr}},
-         {{{UICommandTake, 9, 0, 0}}},
-         "",
-         {enable, tick},
-         {},
-         {1},
-         0,
-         tenMinutes},
-        {"cancel answers with IsCancel true",
-         {{1, "Save your work"}, {2, nullptr}},
-         {{{UICommandCancel, 1, 0, 0}}},
-         "",
-         {update, enable, tick},
-         {Cancelled(1)},
-         {2},
-         0,
-         tenMinutes},
-        {"cancel of an action already removed sends nothing",
-         {{2, nullptr}},
-         {{{UICommandCancel, 1, 0, 0}}},
-         "",
-         {enable, tick},
-         {},
-         {2},
-         0,
-         tenMinutes},
-        {"details, their closing and the quiet-mode dismissal only call the dialogs",
-         {{7, nullptr}},
-         {{{UICommandShowDetails, 7, 0, 0},
-           {UICommandDetailsClosed, 0, 0, 0},
-           {UICommandQuietModeDismissed, 0, 0, 0}}},
-         "",
-         {"ShowActionDetailsDialog(7)", enable, enable, tick},
-         {},
-         {7},
-         0,
-         tenMinutes},
-        {"show actions brings the dialog up even with nothing pending",
-         {},
-         {{{UICommandShowActions, 0, 0, 0}}},
-         "",
-         {"ShowActionRequestDialog(false, 600000000, true)", tick},
-         {},
-         {},
-         0,
-         tenMinutes},
-        {"a command above the last known one is ignored",
-         {{1, nullptr}},
-         {{{static_cast<UICommandType>(10), 1, 0, 0}}},
-         "",
-         {tick},
-         {},
-         {1},
-         0,
-         tenMinutes},
-        {"take all without messages answers everything in order on one tick",
-         {{1, nullptr}, {2, nullptr}, {3, nullptr}},
-         {{{UICommandTakeAll, 0, 0, 0}}},
-         "",
-         {update, enable, tick},
-         {Taken(1), Taken(2), Taken(3)},
-         {},
-         0,
-         tenMinutes},
-        {"take all with nothing pending sends nothing and enables the dialog",
-         {},
-         {{{UICommandTakeAll, 0, 0, 0}}},
-         "",
-         {update, enable, tick},
-         {},
-         {},
-         0,
-         tenMinutes},
-        {"take all asks the second's then the third's confirmation, then answers all three",
-         {{1, nullptr}, {2, "second"}, {3, "third"}},
-         {{{UICommandTakeAll, 0, 0, 0}},
-          {{UICommandConfirmationAccepted, 2, 0, 0}},
-          {{UICommandConfirmationAccepted, 3, 0, 0}}},
-         "",
-         {Confirm(2), tick, Confirm(3), tick, update, enable, enable, tick},
-         {Taken(1), Taken(2), Taken(3)},
-         {},
-         0,
-         tenMinutes},
-        {"take all with one confirmation rejected answers nothing",
-         {{1, "first"}, {2, "second"}},
-         {{{UICommandTakeAll, 0, 0, 0}},
-          {{UICommandConfirmationAccepted, 1, 0, 0}},
-          {{UICommandConfirmationRejected, 2, 0, 0}}},
-         "",
-         {Confirm(1), tick, Confirm(2), tick, enable, tick},
-         {},
-         {1, 2},
-         0,
-         tenMinutes},
-        {"after a rejected walk an acceptance answers only its own action",
-         {{1, "first"}, {2, "second"}},
-         {{{UICommandTakeAll, 0, 0, 0}},
-          {{UICommandConfirmationRejected, 1, 0, 0}},
-          {{UICommandConfirmationAccepted, 2, 0, 0}}},
-         "",
-         {Confirm(1), tick, enable, tick, update, enable, tick},
-         {Taken(2)},
-         {1},
-         0,
-         tenMinutes},
-        {"actions that shrink under an open confirmation leave the walk past the end: it ends",
-         {{1, nullptr}, {2, "last"}},
-         {{{UICommandTakeAll, 0, 0, 0}},
-          {{UICommandCancel, 1, 0, 0}},
-          {{UICommandConfirmationAccepted, 2, 0, 0}}},
-         "",
-         {Confirm(2), tick, update, enable, tick, update, enable, enable, tick},
-         {Cancelled(1), Taken(2)},
-         {},
-         0,
-         tenMinutes},
-        {"snooze to an absolute time: minutes 0 makes the interval zero",
-         {{1, nullptr}},
-         {{{UICommandSnooze, 0, 0, someDeadline}}},
-         "",
-         {tick},
-         {Reminded("Sat, 04 Mar 2000 07:05:09 +0000"), Interval("PT0S")},
-         {1},
-         someDeadline * 1000000,
-         0},
-        {"negative minutes move the absolute time back by as much",
-         {{1, nullptr}},
-         {{{UICommandSnooze, 0, -2, someDeadline}}},
-         "",
-         {tick},
-         {Reminded("Sat, 04 Mar 2000 07:03:09 +0000"), Interval("-PT2M")},
-         {1},
-         (someDeadline - 120) * 1000000,
-         -120000000},
-        {"the seconds are read as an unsigned 32-bit count",
-         {{1, nullptr}},
-         {{{UICommandSnooze, 0, 0, -1}}},
-         "",
-         {tick},
-         {Reminded("Sun, 07 Feb 2106 06:28:15 +0000"), Interval("PT0S")},
-         {1},
-         4294967295ll * 1000000,
-         0},
-        {"snooze with nothing pending sends nothing and postpones nothing",
-         {},
-         {{{UICommandSnooze, 0, 5, 0}}},
-         "",
-         {tick},
-         {},
-         {},
-         0,
-         tenMinutes},
-        {"a command that throws does not stop those behind it",
-         {{1, nullptr}},
-         {{{UICommandShowDetails, 1, 0, 0}, {UICommandTake, 1, 0, 0}}},
-         "ShowActionDetailsDialog",
-         {"ShowActionDetailsDialog(1)", update, enable, tick},
-         {Taken(1)},
-         {},
-         0,
-         tenMinutes},
-        {"a throw after the answer went out costs only the rest of that command",
-         {{1, nullptr}, {2, nullptr}},
-         {{{UICommandTake, 1, 0, 0}, {UICommandCancel, 2, 0, 0}}},
-         "UpdateActionRequestDialog",
-         {update, update, tick},
-         {Taken(1), Cancelled(2)},
-         {},
-         0,
-         tenMinutes},
-    };
-    for (CommandCase const& c : cases) Run(c);
+    Run("take without a message answers at once", {{1, nullptr}, {2, nullptr}},
+        {{{UICommandTake, 2}}}, {update, enable, tick}, {Taken(2)}, {1});
+    Run("take with a message waits for the confirmation, and acceptance answers it",
+        {{1, "Save your work"}}, {{{UICommandTake, 1}}, {{UICommandConfirmationAccepted, 1}}},
+        {Confirm(1), tick, update, enable, tick}, {Taken(1)}, {});
+    Run("take with a message, rejected: nothing goes out and the action stays",
+        {{1, "Save your work"}}, {{{UICommandTake, 1}}, {{UICommandConfirmationRejected, 1}}},
+        {Confirm(1), tick, enable, tick}, {}, {1});
+    Run("an empty message is still a message to confirm", {{3, ""}}, {{{UICommandTake, 3}}},
+        {Confirm(3), tick}, {}, {3});
+    Run("take of an unknown action only enables the dialog", {{1, nullptr}}, {{{UICommandTake, 9}}},
+        {enable, tick}, {}, {1});
+    Run("cancel answers with IsCancel true", {{1, "Save your work"}, {2, nullptr}},
+        {{{UICommandCancel, 1}}}, {update, enable, tick}, {Cancelled(1)}, {2});
+    Run("cancel of an action already removed sends nothing", {{2, nullptr}},
+        {{{UICommandCancel, 1}}}, {enable, tick}, {}, {2});
+    Run("details, their closing and the quiet-mode dismissal only call the dialogs", {{7, nullptr}},
+        {{{UICommandShowDetails, 7},
+          {UICommandDetailsClosed, 0},
+          {UICommandQuietModeDismissed, 0}}},
+        {"ShowActionDetailsDialog(7)", enable, enable, tick}, {}, {7});
+    Run("show actions brings the dialog up even with nothing pending", {},
+        {{{UICommandShowActions, 0}}}, {"ShowActionRequestDialog(false, 600000000, true)", tick},
+        {}, {});
+    Run("a command above the last known one is ignored", {{1, nullptr}},
+        {{{static_cast<UICommandType>(10), 1}}}, {tick}, {}, {1});
+    Run("take all without messages answers everything in order on one tick",
+        {{1, nullptr}, {2, nullptr}, {3, nullptr}}, {{{UICommandTakeAll, 0}}},
+        {update, enable, tick}, {Taken(1), Taken(2), Taken(3)}, {});
+    Run("take all with nothing pending sends nothing and enables the dialog", {},
+        {{{UICommandTakeAll, 0}}}, {update, enable, tick}, {}, {});
+    Run("take all asks the second's then the third's confirmation, then answers all three",
+        {{1, nullptr}, {2, "second"}, {3, "third"}},
+        {{{UICommandTakeAll, 0}},
+         {{UICommandConfirmationAccepted, 2}},
+         {{UICommandConfirmationAccepted, 3}}},
+        {Confirm(2), tick, Confirm(3), tick, update, enable, enable, tick},
+        {Taken(1), Taken(2), Taken(3)}, {});
+    Run("take all with one confirmation rejected answers nothing", {{1, "first"}, {2, "second"}},
+        {{{UICommandTakeAll, 0}},
+         {{UICommandConfirmationAccepted, 1}},
+         {{UICommandConfirmationRejected, 2}}},
+        {Confirm(1), tick, Confirm(2), tick, enable, tick}, {}, {1, 2});
+    Run("after a rejected walk an acceptance answers only its own action",
+        {{1, "first"}, {2, "second"}},
+        {{{UICommandTakeAll, 0}},
+         {{UICommandConfirmationRejected, 1}},
+         {{UICommandConfirmationAccepted, 2}}},
+        {Confirm(1), tick, enable, tick, update, enable, tick}, {Taken(2)}, {1});
+    Run("actions that shrink under an open confirmation leave the walk past the end: it ends",
+        {{1, nullptr}, {2, "last"}},
+        {{{UICommandTakeAll, 0}}, {{UICommandCancel, 1}}, {{UICommandConfirmationAccepted, 2}}},
+        {Confirm(2), tick, update, enable, tick, update, enable, enable, tick},
+        {Cancelled(1), Taken(2)}, {});
+    Run("snooze to an absolute time: minutes 0 makes the interval zero", {{1, nullptr}},
+        {{{UICommandSnooze, 0, 0, someDeadline}}}, {tick},
+        {Reminded("Sat, 04 Mar 2000 07:05:09 +0000"), Interval("PT0S")}, {1}, "",
+        someDeadline * 1000000, 0);
+    Run("negative minutes move the absolute time back by as much", {{1, nullptr}},
+        {{{UICommandSnooze, 0, -2, someDeadline}}}, {tick},
+        {Reminded("Sat, 04 Mar 2000 07:03:09 +0000"), Interval("-PT2M")}, {1}, "",
+        (someDeadline - 120) * 1000000, -120000000);
+    Run("the seconds are read as an unsigned 32-bit count", {{1, nullptr}},
+        {{{UICommandSnooze, 0, 0, -1}}}, {tick},
+        {Reminded("Sun, 07 Feb 2106 06:28:15 +0000"), Interval("PT0S")}, {1}, "",
+        4294967295ll * 1000000, 0);
+    Run("snooze with nothing pending sends nothing and postpones nothing", {},
+        {{{UICommandSnooze, 0, 5}}}, {tick}, {}, {});
+    Run("a command that throws does not stop those behind it", {{1, nullptr}},
+        {{{UICommandShowDetails, 1}, {UICommandTake, 1}}},
+        {"ShowActionDetailsDialog(1)", update, enable, tick}, {Taken(1)}, {},
+        "ShowActionDetailsDialog");
+    Run("a throw after the answer went out costs only the rest of that command",
+        {{1, nullptr}, {2, nullptr}}, {{{UICommandTake, 1}, {UICommandCancel, 2}}},
+        {update, update, tick}, {Taken(1), Cancelled(2)}, {}, "UpdateActionRequestDialog");
 }
 
 TEST_F(ProcessMessagesFromUITest, SnoozeOfFiveMinutesRemindsFiveMinutesAhead) {
-    ActionRequest action;
-    action.m_id = 1;
-    actions.push_back(action);
+    actions.emplace_back();
     Instant const before = Instant::Now();
     QueueCommand(UICommandSnooze, 0, 5, 0);
     ProcessMessagesFromUI();
@@ -361,20 +220,13 @@ TEST_F(ProcessMessagesFromUITest, SnoozeOfFiveMinutesRemindsFiveMinutesAhead) {
     EXPECT_GE(m_postponedTo, before + fiveMinutes);
     EXPECT_LE(m_postponedTo, after + fiveMinutes);
     EXPECT_EQ(m_remindInterval.Microseconds(), 300000000);
-
-    FiFoQueue<UIMessage> batch;
-    writeQ.ReadMessages(batch);
-    std::unique_ptr<XMLElement> remindTime = SimpleXML::Parse(batch.TakeFirst().m_text);
-    TimeObject sent;
-    XMLSerialize(remindTime->GetChildElement(U8("RemindTime")), "TimeObject", sent);
+    std::vector<std::string> const sent = TakeSentDecisions();
+    ASSERT_EQ(sent.size(), 2u);
+    std::string const time = sent[0].substr(Reminded("").size());
+    Instant const remindTime(TextToTime(ConstData(time.data(), time.size())));
     // The document carries whole seconds.
-    EXPECT_GE(Instant(sent), before + fiveMinutes - TimeInterval(1000000));
-    EXPECT_LE(Instant(sent), after + fiveMinutes);
-    std::unique_ptr<XMLElement> interval = SimpleXML::Parse(batch.TakeFirst().m_text);
-    EXPECT_EQ(Str(interval->GetChildElement(U8("RemindInterval"))
-                      .GetChildElement(U8("TimeInterval"))
-                      .GetValue()),
-              "PT5M");
-    EXPECT_TRUE(batch.IsEmpty());
+    EXPECT_GE(remindTime, before + fiveMinutes - TimeInterval(1000000));
+    EXPECT_LE(remindTime, after + fiveMinutes);
+    EXPECT_EQ(sent[1], Interval("PT5M"));
     EXPECT_TRUE(RecordingDialogs::Calls().empty());
 }

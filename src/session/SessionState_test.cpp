@@ -9,13 +9,13 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <cstdint>
 #include <cstdlib>
 #include <string>
 #include <thread>
 
 // After the test framework: the X headers it pulls in define None and Bool.
 #include "session/SessionState.h"
+#include "testing/PipeFrames.h"
 #include "testing/TestText.h"
 
 namespace {
@@ -61,10 +61,7 @@ std::pair<int, std::string> RunBusyChild() {
     close(errors[1]);
     std::atomic<bool> done{false};
     std::thread flood([&] {
-        std::string frame(4, '\0');
-        uint32_t const length = 300;
-        frame.replace(0, 4, reinterpret_cast<char const*>(&length), 4);
-        frame += std::string(length, 'r');
+        std::string const frame = Frame(std::string(300, 'r'));
         while (!done && write(toChild[1], frame.data(), frame.size()) > 0) {
         }
     });

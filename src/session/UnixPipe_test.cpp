@@ -14,20 +14,15 @@
 
 #include "testing/Eventually.h"
 #include "testing/PipeFrames.h"
+#include "testing/TestText.h"
 #include "threads/PortableThread.h"
 
 namespace {
 
 UIMessage MessageOf(std::string const& text) {
     UIMessage message;
-    auto bytes = reinterpret_cast<unsigned char const*>(text.data());
-    message.m_text = MakeUString(bytes, bytes + text.size(), UTF8());
+    message.m_text = MakeUString(U8(text));
     return message;
-}
-
-std::string TextOf(UIMessage const& message) {
-    if (!message.m_text.begin) return std::string();
-    return std::string(reinterpret_cast<char const*>(message.m_text.begin), message.Length());
 }
 
 // Drains the queue into texts; null texts show as "<null>".
@@ -36,7 +31,7 @@ void Drain(UIMessageQueue& queue, std::vector<std::string>& into) {
     queue.ReadMessages(batch);
     while (!batch.IsEmpty()) {
         UIMessage message = batch.TakeFirst();
-        into.push_back(message.m_text.begin ? TextOf(message) : "<null>");
+        into.push_back(message.m_text.begin ? Str(message.m_text) : "<null>");
     }
 }
 
@@ -104,7 +99,7 @@ TEST(UIMessageQueue, SwapRacingAWriterLosesAndReordersNothing) {
         for (int i = 0; i < count; ++i) {
             UIMessage message = MessageOf(std::to_string(i));
             queue.WriteMessage(message);
-            EXPECT_EQ(TextOf(message), std::to_string(i)) << "the sender's copy changed";
+            EXPECT_EQ(Str(message.m_text), std::to_string(i)) << "the sender's copy changed";
         }
     });
     std::vector<std::string> seen;
