@@ -36,144 +36,54 @@ struct Store {
     }
 };
 
-// The published texts by number.
-char const* const singleTexts[] = {
+// How a summary speaks of one action, of the selected ones or of all pending ones. A summary
+// is up to two sentences, two spaces apart: one on saving and on a restart or shutdown, one on
+// the deadline. The texts are put together here from their parts rather than copied from the
+// table they are published in, so that a wrong entry in the code's table shows.
+struct Wording {
+    char const* subject;
+    char const* taking;
+    char const* as;
+    char const* complete;
+    char const* deadline[4];  // none, within, now, automatic
+};
+Wording const oneAction = {
+    "This action",
+    "this action",
+    ", as it",
     "",
-    "You should save your work before taking this action.",
-    "You must take this action within {DeadlineText}.",
-    "You should save your work before taking this action.  You must take this action within "
-    "{DeadlineText}.",
-    "This action will require a system restart.",
-    "You should save your work before taking this action, as it will require a system restart.",
-    "This action will require a system restart.  You must take this action within {DeadlineText}.",
-    "You should save your work before taking this action, as it will require a system restart.  "
-    "You must take this action within {DeadlineText}.",
-    "This action will require a system shutdown.",
-    "You should save your work before taking this action, as it will require a system shutdown.",
-    "This action will require a system shutdown.  You must take this action within {DeadlineText}.",
-    "You should save your work before taking this action, as it will require a system shutdown.  "
-    "You must take this action within {DeadlineText}.",
-    "You must take this action now.",
-    "You should save your work before taking this action.  You must take this action now.",
-    "This action will require a system restart.  You must take this action now.",
-    "You should save your work before taking this action, as it will require a system restart.  "
-    "You must take this action now.",
-    "This action will require a system shutdown.  You must take this action now.",
-    "You should save your work before taking this action, as it will require a system shutdown.  "
-    "You must take this action now.",
-    "This action will run automatically in {DeadlineText}.",
-    "You should save your work before taking this action.  This action will run automatically in "
-    "{DeadlineText}.",
-    "This action will require a system restart.  This action will run automatically in "
-    "{DeadlineText}.",
-    "You should save your work before taking this action, as it will require a system restart.  "
-    "This action will run automatically in {DeadlineText}.",
-    "This action will require a system shutdown.  This action will run automatically in "
-    "{DeadlineText}.",
-    "You should save your work before taking this action, as it will require a system shutdown.  "
-    "This action will run automatically in {DeadlineText}.",
-};
+    {"", "You must take this action within {DeadlineText}.", "You must take this action now.",
+     "This action will run automatically in {DeadlineText}."}};
+Wording const selectedActions = {
+    "The selected actions",
+    "the selected actions",
+    ", as they",
+    " when they are complete",
+    {"", "There is at least one selected action you must take within {DeadlineText}.",
+     "There is at least one selected action you must take now.",
+     "At least one of the selected actions will run automatically in {DeadlineText}."}};
+Wording const pendingActions = {
+    "The pending actions",
+    "these actions",
+    ", as they",
+    " when they are complete",
+    {"", "There is at least one action you must take within {DeadlineText}.",
+     "There is at least one action you must take now.",
+     "At least one of these actions will run automatically in {DeadlineText}."}};
 
-char const* const severalTexts[] = {
-    "",
-    "You should save your work before taking the selected actions.",
-    "There is at least one selected action you must take within {DeadlineText}.",
-    "You should save your work before taking the selected actions.  There is at least one selected "
-    "action you must take within {DeadlineText}.",
-    "The selected actions will require a system restart when they are complete.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "restart when they are complete.",
-    "The selected actions will require a system restart when they are complete.  There is at least "
-    "one selected action you must take within {DeadlineText}.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "restart when they are complete.  There is at least one selected action you must take within "
-    "{DeadlineText}.",
-    "The selected actions will require a system shutdown when they are complete.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "shutdown when they are complete.",
-    "The selected actions will require a system shutdown when they are complete.  There is at "
-    "least one selected action you must take within {DeadlineText}.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "shutdown when they are complete.  There is at least one selected action you must take within "
-    "{DeadlineText}.",
-    "There is at least one selected action you must take now.",
-    "You should save your work before taking the selected actions.  There is at least one selected "
-    "action you must take now.",
-    "The selected actions will require a system restart when they are complete.  There is at least "
-    "one selected action you must take now.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "restart when they are complete.  There is at least one selected action you must take now.",
-    "The selected actions will require a system shutdown when they are complete.  There is at "
-    "least one selected action you must take now.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "shutdown when they are complete.  There is at least one selected action you must take now.",
-    "At least one of the selected actions will run automatically in {DeadlineText}.",
-    "You should save your work before taking the selected actions.  At least one of the selected "
-    "actions will run automatically in {DeadlineText}.",
-    "The selected actions will require a system restart when they are complete.  At least one of "
-    "the selected actions will run automatically in {DeadlineText}.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "restart when they are complete.  At least one of the selected actions will run automatically "
-    "in {DeadlineText}.",
-    "The selected actions will require a system shutdown when they are complete.  At least one of "
-    "the selected actions will run automatically in {DeadlineText}.",
-    "You should save your work before taking the selected actions, as they will require a system "
-    "shutdown when they are complete.  At least one of the selected actions will run automatically "
-    "in {DeadlineText}.",
-    "You should save your work before taking these actions.",
-    "There is at least one action you must take within {DeadlineText}.",
-    "You should save your work before taking these actions.  There is at least one action you must "
-    "take within {DeadlineText}.",
-    "The pending actions will require a system restart when they are complete.",
-    "You should save your work before taking these actions, as they will require a system restart "
-    "when they are complete.",
-    "The pending actions will require a system restart when they are complete.  There is at least "
-    "one action you must take within {DeadlineText}.",
-    "You should save your work before taking these actions, as they will require a system restart "
-    "when they are complete.  There is at least one action you must take within {DeadlineText}.",
-    "The pending actions will require a system shutdown when they are complete.",
-    "You should save your work before taking these actions, as they will require a system shutdown "
-    "when they are complete.",
-    "The pending actions will require a system shutdown when they are complete.  There is at least "
-    "one action you must take within {DeadlineText}.",
-    "You should save your work before taking these actions, as they will require a system shutdown "
-    "when they are complete.  There is at least one action you must take within {DeadlineText}.",
-    "There is at least one action you must take now.",
-    "You should save your work before taking these actions.  There is at least one action you must "
-    "take now.",
-    "The pending actions will require a system restart when they are complete.  There is at least "
-    "one action you must take now.",
-    "You should save your work before taking these actions, as they will require a system restart "
-    "when they are complete.  There is at least one action you must take now.",
-    "The pending actions will require a system shutdown when they are complete.  There is at least "
-    "one action you must take now.",
-    "You should save your work before taking these actions, as they will require a system shutdown "
-    "when they are complete.  There is at least one action you must take now.",
-    "At least one of these actions will run automatically in {DeadlineText}.",
-    "You should save your work before taking these actions.  At least one of these actions will "
-    "run automatically in {DeadlineText}.",
-    "The pending actions will require a system restart when they are complete.  At least one of "
-    "these actions will run automatically in {DeadlineText}.",
-    "You should save your work before taking these actions, as they will require a system restart "
-    "when they are complete.  At least one of these actions will run automatically in "
-    "{DeadlineText}.",
-    "The pending actions will require a system shutdown when they are complete.  At least one of "
-    "these actions will run automatically in {DeadlineText}.",
-    "You should save your work before taking these actions, as they will require a system shutdown "
-    "when they are complete.  At least one of these actions will run automatically in "
-    "{DeadlineText}.",
-};
-
-// The published text numbers. Rows: neither, neither with RequestSave, restart, restart with
-// RequestSave, shutdown, shutdown with RequestSave. Columns: none, within, now, automatic.
-int const selectedNumbers[6][4] = {
-    {0, 2, 12, 18}, {1, 3, 13, 19},  {4, 6, 14, 20},
-    {5, 7, 15, 21}, {8, 10, 16, 22}, {9, 11, 17, 23},
-};
-int const pendingNumbers[6][4] = {
-    {0, 25, 35, 41},  {24, 26, 36, 42}, {27, 29, 37, 43},
-    {28, 30, 38, 44}, {31, 33, 39, 45}, {32, 34, 40, 46},
-};
+// Returns the published text, its deadline variable not yet replaced. kind is "", "restart" or
+// "shutdown"; column 0 to 3 as in Wording::deadline.
+std::string Published(Wording const& w, bool save, std::string const& kind, int column) {
+    std::string const require = " will require a system " + kind + w.complete + ".";
+    std::string text;
+    if (save)
+        text = std::string("You should save your work before taking ") + w.taking +
+               (kind.empty() ? "." : w.as + require);
+    else if (!kind.empty())
+        text = w.subject + require;
+    if (!text.empty() && column != 0) text += "  ";
+    return text + w.deadline[column];
+}
 
 // Returns the text with its deadline variable replaced.
 std::string WithDeadline(std::string text, std::string const& deadline) {
@@ -204,7 +114,7 @@ TEST(ActionSummary, EveryStateChoosesItsPublishedText) {
     // Three deadlines: none; two hours ahead, worded "2 hours"; an hour past, which is soon,
     // and worded "0 seconds" when forced.
     enum Deadline { NoDeadline, TwoHoursAhead, HourPast };
-    std::set<int> singleReached, severalReached;
+    std::set<std::string> singleReached, severalReached;
     for (int facts = 0; facts < 16; ++facts) {
         for (Deadline deadline : {NoDeadline, TwoHoursAhead, HourPast}) {
             Action action;
@@ -219,24 +129,26 @@ TEST(ActionSummary, EveryStateChoosesItsPublishedText) {
             if (deadline != NoDeadline)
                 column = action.m_forceRun ? 3 : deadline == HourPast ? 2 : 1;
             std::string const deadlineText = deadline == TwoHoursAhead ? "2 hours" : "0 seconds";
-            int const save = action.m_requestSave ? 1 : 0;
             // Both restart and shutdown: a restart for one action, a shutdown for a set.
+            char const* const kinds[] = {"", "restart", "shutdown"};
             int const singleKind = action.m_restart ? 1 : action.m_shutdown ? 2 : 0;
             int const severalKind = action.m_shutdown ? 2 : action.m_restart ? 1 : 0;
             SCOPED_TRACE(::testing::Message() << "facts " << facts << " deadline " << deadline);
 
-            int const single = selectedNumbers[singleKind * 2 + save][column];
+            std::string const single =
+                Published(oneAction, action.m_requestSave, kinds[singleKind], column);
             singleReached.insert(single);
-            EXPECT_EQ(Str(ActionSummary(action)), WithDeadline(singleTexts[single], deadlineText));
+            EXPECT_EQ(Str(ActionSummary(action)), WithDeadline(single, deadlineText));
 
             Store store;
             store.actions[7] = action;
             for (bool allPending : {false, true}) {
-                int const several =
-                    (allPending ? pendingNumbers : selectedNumbers)[severalKind * 2 + save][column];
+                std::string const several =
+                    Published(allPending ? pendingActions : selectedActions, action.m_requestSave,
+                              kinds[severalKind], column);
                 severalReached.insert(several);
                 EXPECT_EQ(Str(ActionSummary({7}, store, allPending)),
-                          WithDeadline(severalTexts[several], deadlineText));
+                          WithDeadline(several, deadlineText));
             }
         }
     }
@@ -274,25 +186,17 @@ TEST(ActionSummary, TheFiveMinuteLineBelongsToWithin) {
 
 TEST(ActionSummary, SeveralActionsCombineTheirFacts) {
     Instant const now = Instant::Now();
-    auto make = [](bool restart, bool shutdown, bool save, bool force, NullOr<Instant> deadline) {
-        Action action;
-        action.m_restart = restart;
-        action.m_shutdown = shutdown;
-        action.m_requestSave = save;
-        action.m_forceRun = force;
-        action.m_deadline = deadline;
-        return action;
-    };
     NullOr<Instant> const none;
     Store store;
-    store.actions[1] = make(true, false, false, false, none);
-    store.actions[2] = make(false, true, false, false, none);
-    store.actions[3] = make(false, false, true, false, none);
-    store.actions[4] = make(false, false, false, false, now + Minutes(120));
-    store.actions[5] = make(false, false, false, true, now + Minutes(120));
-    store.actions[6] = make(false, false, false, true, now + Minutes(300));
-    store.actions[7] = make(false, false, false, true, none);
-    store.actions[8] = make(true, true, false, false, none);
+    // Restart, shutdown, ForceRun, RequestSave, deadline.
+    store.actions[1] = {true, false, false, false, none};
+    store.actions[2] = {false, true, false, false, none};
+    store.actions[3] = {false, false, false, true, none};
+    store.actions[4] = {false, false, false, false, now + Minutes(120)};
+    store.actions[5] = {false, false, true, false, now + Minutes(120)};
+    store.actions[6] = {false, false, true, false, now + Minutes(300)};
+    store.actions[7] = {false, false, true, false, none};
+    store.actions[8] = {true, true, false, false, none};
     struct Row {
         std::set<unsigned long long> ids;
         bool allPending;

@@ -10,8 +10,6 @@
 #include "testing/TestText.h"
 #include "text/unicode/UnicodeErrors.h"
 
-namespace {}  // namespace
-
 TEST(FormattedDeadline, WordsEachRangeAndItsEdges) {
     struct Row {
         std::int64_t microseconds;

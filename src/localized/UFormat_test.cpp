@@ -11,6 +11,16 @@
 
 namespace {
 
+// Returns the text rendered with the arguments bound in order (four at most).
+template <unsigned N>
+AutoUString<UTF8> Bound(FormatPlusArguments<N> const& text,
+                        std::vector<std::string> const& arguments) {
+    if constexpr (N < 4) {
+        if (arguments.size() > N) return Bound(text.With(U8(arguments[N])), arguments);
+    }
+    return MakeUString(text);
+}
+
 // Returns the text rendered from key, the override's text (none when null) and the arguments,
 // or "!" and the name of the format failure that was raised.
 std::string Outcome(std::string const& key, char const* overrideText,
@@ -20,26 +30,7 @@ std::string Outcome(std::string const& key, char const* overrideText,
     FormatOverrideContext context;
     FormatOverrideScope const scope(set, context);
     try {
-        FormatPlusArguments<0u> const text = UFormat(U8(key), U8(key), context);
-        AutoUString<UTF8> result;
-        switch (arguments.size()) {
-            case 0:
-                result = MakeUString(text);
-                break;
-            case 1:
-                result = MakeUString(text.With(U8(arguments[0])));
-                break;
-            case 2:
-                result = MakeUString(text.With(U8(arguments[0])).With(U8(arguments[1])));
-                break;
-            case 3:
-                result = MakeUString(
-                    text.With(U8(arguments[0])).With(U8(arguments[1])).With(U8(arguments[2])));
-                break;
-            default:
-                ADD_FAILURE() << "too many arguments for this table";
-        }
-        return Str(UStringRef<UTF8>(result));
+        return Str(UStringRef<UTF8>(Bound(UFormat(U8(key), U8(key), context), arguments)));
     } catch (BadFormatStringError const&) {
         return "!BadFormatStringError";
     } catch (ImproperFormatVariableName const&) {
@@ -89,7 +80,8 @@ TEST(UFormat, SyntaxBindingAndRendering) {
         {"{a}", nullptr, {"{a}"}, "{a}"},
         {"{a} {a}", nullptr, {"2", "1"}, "1 1"},
         {"{a}{_tab}{b}", nullptr, {"x", "y"}, "x\ty"},
-        {"{1a} {-a} {ab}", nullptr, {"p", "q", "r"}, "p q r"},
+        // Only a leading underscore marks a reserved name.
+        {"{1a} {-a} {ab} {a_}", nullptr, {"p", "q", "r", "s"}, "p q r s"},
         {"{{a}", nullptr, {"v"}, "v"},
         // Failures of the key, at binding.
         {"{x", nullptr, {}, "!BadFormatStringError"},
@@ -168,31 +160,6 @@ TEST(UFormat, TheConstructorFormAppendsLikeWith) {
     FormatPlusArguments<2u> const built(FormatPlusArguments<1u>(base, U8(one)), U8(two));
     EXPECT_EQ(Str(UStringRef<UTF8>(MakeUString(built))), "1-2");
     EXPECT_EQ(Str(UStringRef<UTF8>(MakeUString(base.With(U8(one)).With(U8(two))))), "1-2");
-}
-
-TEST(UFormat, ReservedNamesAndTheirChecks) {
-    ConstArrayOf<FormatBinding> const reserved = ReservedFormatBindings();
-    ASSERT_EQ(reserved.Count(), 6u);
-    std::string names;
-    for (FormatBinding const* entry = reserved.begin; entry != reserved.end; ++entry) {
-        names += Str(entry->first) + "=" + Str(entry->second) + ";";
-    }
-    EXPECT_EQ(names, "_cbrace=};_cr=\r;_crlf=\r\n;_lf=\n;_obrace={;_tab=\t;");
-    EXPECT_TRUE(IsFormatVariableNameReserved(U8("_a")));
-    EXPECT_FALSE(IsFormatVariableNameReserved(U8("a_")));
-    EXPECT_THROW(IsFormatVariableNameReserved(U8("")), ImproperFormatVariableName);
-    EXPECT_NO_THROW(CheckFormatVariableName(U8("_crlf")));
-    EXPECT_THROW(CheckFormatVariableName(U8("_crl")), UndefinedFormatVariable);
-}
-
-TEST(UFormat, MakeLocalStringRendersIntoTheLocale) {
-    // The C locale of a test program holds ASCII.
-    AutoNullTerminated<char> const local =
-        MakeLocalString(UFormat("{a}{_tab}b").With(EncodingCast<UStringRef<UTF8> >("x")));
-    EXPECT_STREQ(local.pointer, "x\tb");
-    AutoNullTerminated<char> const platform = MakePlatformString(UFormat("OK"));
-    EXPECT_STREQ(platform.pointer, "OK");
-    EXPECT_THROW(MakeLocalString(UFormat("{a}")), TooManyFormatArguments);
 }
 
 TEST(UFormat, LongFormatsRenderWhole) {
