@@ -8,7 +8,6 @@
 
 #include <string>
 
-#include "dialogs/XHelpers.h"
 #include "session/DialogCalls.h"
 #include "testing/TestText.h"
 
@@ -49,17 +48,11 @@ TEST_F(ActionDetailsDialogTest, TreeHasTheNamedWidgetsWithTheirResources) {
     Widget text = XtNameToWidget(shell, "form.actiondetails");
     Widget ok = XtNameToWidget(shell, "form.ok");
     ASSERT_TRUE(form && text && ok);
-    EXPECT_EQ(XtClass(text), asciiTextWidgetClass);
+    ExpectReadOnlyTextBox(text);
     EXPECT_EQ(XtClass(ok), commandWidgetClass);
 
     EXPECT_EQ(WidgetText(text, XtNstring), "echo first\necho second");
     EXPECT_EQ(WidgetResource<Dimension>(text, XtNwidth), 500);
-    EXPECT_EQ(WidgetResource<Dimension>(text, XtNheight), 100);
-    EXPECT_EQ(WidgetResource<XawTextScrollMode>(text, XtNscrollVertical), XawtextScrollAlways);
-    EXPECT_EQ(WidgetResource<XawTextWrapMode>(text, XtNwrap), XawtextWrapWord);
-    EXPECT_FALSE(WidgetResource<Boolean>(text, XtNdisplayCaret));
-    EXPECT_FALSE(WidgetResource<Boolean>(text, XtNsensitive));
-    EXPECT_NE(TextVerticalScrollbar(text), nullptr);
 
     EXPECT_EQ(WidgetText(ok, XtNlabel), "OK");
     EXPECT_EQ(WidgetResource<Widget>(ok, XtNfromVert), text);
@@ -91,12 +84,7 @@ TEST_F(ActionDetailsDialogTest, OkClosesAndQueuesDetailsClosed) {
     ShowActionDetailsDialog(9);
     Press(XtNameToWidget(OnlyShell(), "form.ok"));
     EXPECT_TRUE(TopLevelShells().empty());
-    std::vector<UICommand> commands = TakeCommands();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(commands[0].m_command, UICommandDetailsClosed);
-    EXPECT_EQ(commands[0].m_actionID, 0u);
-    EXPECT_EQ(commands[0].m_minutes, 0);
-    EXPECT_EQ(commands[0].m_seconds, 0u);
+    EXPECT_EQ(TakeCommands(), (std::vector<QueuedCommand>{{UICommandDetailsClosed, 0, 0, 0}}));
     EXPECT_EQ(TakeDocuments(), 0u);
     // The dialog can be opened again once closed.
     ShowActionDetailsDialog(9);

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <string>
 
-#include "dialogs/XHelpers.h"
 #include "session/DialogCalls.h"
 #include "testing/ScopedTranslation.h"
 #include "testing/TestText.h"
@@ -77,17 +76,10 @@ TEST_F(ConfirmationDialogTest, TreeHasTheNamedWidgetsWithTheirResources) {
     }
     EXPECT_EQ(WidgetResource<Widget>(explanation, XtNfromVert), title);
 
-    EXPECT_EQ(XtClass(message), asciiTextWidgetClass);
+    ExpectReadOnlyTextBox(message);
     EXPECT_EQ(WidgetText(message, XtNstring), "Save your documents first.");
     EXPECT_EQ(WidgetResource<Dimension>(message, XtNwidth),
               std::max(500, static_cast<int>(WidgetResource<Dimension>(explanation, XtNwidth))));
-    EXPECT_EQ(WidgetResource<Dimension>(message, XtNheight), 100);
-    EXPECT_EQ(WidgetResource<XawTextScrollMode>(message, XtNscrollVertical), XawtextScrollAlways);
-    EXPECT_EQ(WidgetResource<XawTextWrapMode>(message, XtNwrap), XawtextWrapWord);
-    EXPECT_FALSE(WidgetResource<Boolean>(message, XtNdisplayCaret));
-    // The user can scroll the box but cannot type in it.
-    EXPECT_FALSE(WidgetResource<Boolean>(message, XtNsensitive));
-    EXPECT_NE(TextVerticalScrollbar(message), nullptr);
     EXPECT_EQ(WidgetResource<Widget>(message, XtNfromVert), explanation);
 
     EXPECT_EQ(XtClass(cancel), commandWidgetClass);
@@ -198,12 +190,7 @@ TEST_F(ConfirmationDialogTest, ButtonsCloseAndQueueTheirAnswer) {
         ShowConfirmationRequestDialog(41);
         Press(Part(c.button));
         EXPECT_TRUE(TopLevelShells().empty());
-        std::vector<UICommand> commands = TakeCommands();
-        ASSERT_EQ(commands.size(), 1u);
-        EXPECT_EQ(commands[0].m_command, c.command);
-        EXPECT_EQ(commands[0].m_actionID, 41u);
-        EXPECT_EQ(commands[0].m_minutes, 0);
-        EXPECT_EQ(commands[0].m_seconds, 0u);
+        EXPECT_EQ(TakeCommands(), (std::vector<QueuedCommand>{{c.command, 41, 0, 0}}));
         EXPECT_EQ(TakeDocuments(), 0u);
     }
 }
@@ -221,9 +208,8 @@ TEST_F(ConfirmationDialogTest, ASecondShowWhileUpIsDropped) {
     EXPECT_EQ(WidgetText(Part("form.actiontitle"), XtNlabel), "first title");
     EXPECT_EQ(WidgetText(Part("form.actionconfirmation"), XtNstring), "first message");
     Press(Part("form.ok"));
-    std::vector<UICommand> commands = TakeCommands();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(commands[0].m_actionID, 1u);
+    EXPECT_EQ(TakeCommands(),
+              (std::vector<QueuedCommand>{{UICommandConfirmationAccepted, 1, 0, 0}}));
 }
 
 // An action that is gone by the time the dialog opens leaves the texts of the last one, but
@@ -237,8 +223,6 @@ TEST_F(ConfirmationDialogTest, AMissingActionKeepsTheLastTexts) {
     EXPECT_EQ(WidgetText(Part("form.actiontitle"), XtNlabel), "first title");
     EXPECT_EQ(WidgetText(Part("form.actionconfirmation"), XtNstring), "first message");
     Press(Part("form.cancel"));
-    std::vector<UICommand> commands = TakeCommands();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(commands[0].m_command, UICommandConfirmationRejected);
-    EXPECT_EQ(commands[0].m_actionID, 8u);
+    EXPECT_EQ(TakeCommands(),
+              (std::vector<QueuedCommand>{{UICommandConfirmationRejected, 8, 0, 0}}));
 }

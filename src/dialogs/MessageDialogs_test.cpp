@@ -8,7 +8,6 @@
 
 #include <string>
 
-#include "dialogs/XHelpers.h"
 #include "session/DialogCalls.h"
 #include "session/MessageRequest.h"
 #include "testing/TestText.h"
@@ -57,15 +56,9 @@ TEST_F(MessageDialogsTest, TreeHasTheNamedWidgetsWithTheirResources) {
     Widget text = XtNameToWidget(shell, "form.actionmessage");
     Widget dismiss = XtNameToWidget(shell, "form.dismiss");
     ASSERT_TRUE(text && dismiss);
-    EXPECT_EQ(XtClass(text), asciiTextWidgetClass);
+    ExpectReadOnlyTextBox(text);
     EXPECT_EQ(WidgetText(text, XtNstring), "The server restarts at ten.");
     EXPECT_EQ(WidgetResource<Dimension>(text, XtNwidth), 500);
-    EXPECT_EQ(WidgetResource<Dimension>(text, XtNheight), 100);
-    EXPECT_EQ(WidgetResource<XawTextScrollMode>(text, XtNscrollVertical), XawtextScrollAlways);
-    EXPECT_EQ(WidgetResource<XawTextWrapMode>(text, XtNwrap), XawtextWrapWord);
-    EXPECT_FALSE(WidgetResource<Boolean>(text, XtNdisplayCaret));
-    EXPECT_FALSE(WidgetResource<Boolean>(text, XtNsensitive));
-    EXPECT_NE(TextVerticalScrollbar(text), nullptr);
 
     EXPECT_EQ(XtClass(dismiss), commandWidgetClass);
     EXPECT_EQ(WidgetText(dismiss, XtNlabel), "OK");

@@ -113,12 +113,7 @@ TEST_F(QuietModeDialogTest, OkClosesAndQueuesQuietModeDismissed) {
     ShowQuietModeDialog(quietStart, quietEnd);
     Press(XtNameToWidget(OnlyShell(), "form.ok"));
     EXPECT_TRUE(TopLevelShells().empty());
-    std::vector<UICommand> commands = TakeCommands();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(commands[0].m_command, UICommandQuietModeDismissed);
-    EXPECT_EQ(commands[0].m_actionID, 0u);
-    EXPECT_EQ(commands[0].m_minutes, 0);
-    EXPECT_EQ(commands[0].m_seconds, 0u);
+    EXPECT_EQ(TakeCommands(), (std::vector<QueuedCommand>{{UICommandQuietModeDismissed, 0, 0, 0}}));
     EXPECT_EQ(TakeDocuments(), 0u);
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "AgentSimulator.h"
+#include "testing/AgentExit.h"
 #include "testing/XvfbServer.h"
 
 // The probe binds the action to every client message, as a resource file could, and sends its
@@ -22,10 +23,7 @@ TEST(SystemMenuClose, OnlyAWindowManagerCloseRequestEndsTheProcess) {
         agents[i].Launch(XFAILUREPROBE_PATH, {cases[i].mode, "-display", server.DisplayName()});
     for (int i = 0; i < 3; ++i) {
         SCOPED_TRACE(cases[i].mode);
-        auto end = agents[i].WaitForExit(20000);
-        ASSERT_TRUE(end.has_value()) << "the process did not end";
-        EXPECT_TRUE(end->exited);
-        EXPECT_EQ(end->status, cases[i].status);
+        ExpectExitStatus(agents[i], cases[i].status);
         EXPECT_FALSE(agents[i].ReceiveFrame(100).has_value()) << "nothing goes to the agent";
     }
 }

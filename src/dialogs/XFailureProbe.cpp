@@ -9,12 +9,10 @@
 //   warning-noFont-after-eof
 //                          the same, once the agent has closed descriptor 0 and the pipe is
 //                          killed, so that nothing drains the reports any more
-//   server-without-fonts   a label is made on a server that has no font
 //   protocol-error         a request names a window that does not exist; the error comes as
 //                          the answer to a round trip
 //   protocol-error-in-loop the same, but the error arrives while the main loop reads events
 //   toolkit-error          the toolkit reports an error
-//   lost-display           sends the greeting once connected, then waits in the main loop
 //   close-delete           the window manager asks the shell to close
 //   close-other            a WM_PROTOCOLS message of another protocol arrives
 //   close-other-type       a message of another type carries WM_DELETE_WINDOW
@@ -23,7 +21,6 @@
 #include <X11/Intrinsic.h>
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
-#include <X11/Xaw/Label.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -33,9 +30,7 @@
 #include "dialogs/DefaultFontSet.h"
 #include "dialogs/SystemMenuClose.h"
 #include "dialogs/XErrorHandlers.h"
-#include "session/ClientSender.h"
 #include "session/ExitCleanup.h"
-#include "session/ReadyForData.h"
 #include "session/SessionState.h"
 
 namespace {
@@ -114,11 +109,6 @@ int main(int argc, char** argv) {
         char const* errorClass = mode == "warning-noFont" ? nullptr : "XtToolkitError";
         XtAppWarningMsg(app_context, "noFont", "cvtStringToFontSet", errorClass,
                         "Unable to load any usable fontset", nullptr, &noParameters);
-    } else if (mode == "server-without-fonts") {
-        OpenDisplay(argc, argv);
-        Widget shell = XtVaAppCreateShell(nullptr, "XZOLClientUI", applicationShellWidgetClass,
-                                          display, nullptr);
-        XtVaCreateManagedWidget("label", labelWidgetClass, shell, XtNlabel, "text", nullptr);
     } else if (mode == "protocol-error") {
         OpenDisplay(argc, argv);
         XMapWindow(display, 0x1fffffff);
@@ -131,11 +121,6 @@ int main(int argc, char** argv) {
     } else if (mode == "toolkit-error") {
         OpenDisplay(argc, argv);
         XtAppError(app_context, "a deliberate toolkit error");
-    } else if (mode == "lost-display") {
-        OpenDisplay(argc, argv);
-        ReadyForData greeting;
-        WriteXMLToClient(greeting);
-        XtAppMainLoop(app_context);
     } else if (mode == "close-delete") {
         OpenDisplay(argc, argv);
         SendProtocolMessage("WM_PROTOCOLS", "WM_DELETE_WINDOW");

@@ -1,76 +1,27 @@
-// GoogleTest comes before the X headers, whose macros (None, Bool) would break it.
-#include <gtest/gtest.h>
+// The testing fixture comes before the X headers, whose macros (None, Bool) would break GoogleTest.
+#include "testing/DialogDisplay.h"
 
 #include "dialogs/XHelpers.h"
 
-#include <X11/Shell.h>
-#include <X11/StringDefs.h>
 #include <X11/Xaw/List.h>
 #include <X11/Xaw/Scrollbar.h>
 #include <X11/Xaw/Viewport.h>
 
-#include <cstring>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "testing/ScopedSettings.h"
-#include "testing/ToolkitDisplay.h"
-#include "testing/XvfbServer.h"
 
 namespace {
 
-// Each test gets its own 1024x768 server and a toolkit display on it.
-class XHelpersTest : public ::testing::Test {
+// The fixture's server has a 1024x768 screen.
+class XHelpersTest : public DialogDisplayTest {
   protected:
-    void SetUp() override {
-        m_server = std::make_unique<XvfbServer>();
-        m_toolkit = std::make_unique<ToolkitDisplay>(m_server->DisplayName());
-    }
-    void TearDown() override {
-        m_toolkit.reset();
-        m_server.reset();
-    }
-
-    Display* Connection() const { return m_toolkit->Connection(); }
-
     Widget MakeShell(Dimension width, Dimension height) {
-        return XtVaAppCreateShell(nullptr, "XZOLClientUI", topLevelShellWidgetClass, Connection(),
+        return XtVaAppCreateShell(nullptr, "XZOLClientUI", topLevelShellWidgetClass, display,
                                   XtNwidth, width, XtNheight, height, nullptr);
     }
-
-    // Sends a pointer event to the widget's window through the server, as a real press,
-    // motion or release would arrive there.
-    void SendPointer(Widget widget, int type, unsigned button, int x, int y, unsigned state) {
-        XEvent event;
-        std::memset(&event, 0, sizeof event);
-        event.xbutton.type = type;
-        event.xbutton.display = Connection();
-        event.xbutton.window = XtWindow(widget);
-        event.xbutton.root = DefaultRootWindow(Connection());
-        event.xbutton.x = x;
-        event.xbutton.y = y;
-        event.xbutton.state = state;
-        event.xbutton.button = button;
-        event.xbutton.same_screen = True;
-        if (type == MotionNotify) {
-            event.xmotion.is_hint = NotifyNormal;
-            event.xmotion.same_screen = True;
-        }
-        XSendEvent(Connection(), XtWindow(widget), False, NoEventMask, &event);
-        m_toolkit->Settle();
-    }
-
-    std::unique_ptr<XvfbServer> m_server;
-    std::unique_ptr<ToolkitDisplay> m_toolkit;
 };
-
-template <class T>
-T ValueOf(Widget widget, char const* resource) {
-    T value{};
-    XtVaGetValues(widget, resource, &value, nullptr);
-    return value;
-}
 
 // The list items outlive the widgets; the list does not copy them.
 std::vector<std::string> const rowTexts = [] {
@@ -98,12 +49,12 @@ TEST_F(XHelpersTest, CenterDialogOnDisplayPlacesTheShellInTheMiddle) {
         Widget shell = MakeShell(c.width, c.height);
         XtRealizeWidget(shell);
         CenterDialogOnDisplay(shell);
-        m_toolkit->Settle();
-        EXPECT_EQ(ValueOf<Position>(shell, XtNx), c.x);
-        EXPECT_EQ(ValueOf<Position>(shell, XtNy), c.y);
+        Settle();
+        EXPECT_EQ(WidgetResource<Position>(shell, XtNx), c.x);
+        EXPECT_EQ(WidgetResource<Position>(shell, XtNy), c.y);
         // Without a window manager the server places the window exactly there.
         XWindowAttributes attributes;
-        XGetWindowAttributes(Connection(), XtWindow(shell), &attributes);
+        XGetWindowAttributes(display, XtWindow(shell), &attributes);
         EXPECT_EQ(attributes.x, c.x);
         EXPECT_EQ(attributes.y, c.y);
         XtDestroyWidget(shell);
@@ -137,50 +88,49 @@ ListInViewport MakeList(Display* connection, int rows) {
 }  // namespace
 
 TEST_F(XHelpersTest, ScrollSelectedItemIntoViewBringsTheHighlightedRowToTheTop) {
-    ListInViewport made = MakeList(Connection(), 100);
-    m_toolkit->Settle();
+    ListInViewport made = MakeList(display, 100);
+    Settle();
     Widget clip = XtNameToWidget(made.viewport, "clip");
     ASSERT_NE(clip, nullptr);
     ASSERT_NE(XtNameToWidget(made.viewport, "vertical"), nullptr);
-    int listHeight = ValueOf<Dimension>(made.list, XtNheight);
-    int viewHeight = ValueOf<Dimension>(clip, XtNheight);
+    int listHeight = WidgetResource<Dimension>(made.list, XtNheight);
+    int viewHeight = WidgetResource<Dimension>(clip, XtNheight);
     ASSERT_GT(listHeight, 4 * viewHeight) << "the list must be long for this test";
     // The list is its rows between two margins.
-    int margin = ValueOf<Dimension>(made.list, XtNinternalHeight);
+    int margin = WidgetResource<Dimension>(made.list, XtNinternalHeight);
     int rowHeight = (listHeight - 2 * margin) / 100;
 
     // A row in the middle comes to the top of the view, give or take the margin.
     XawListHighlight(made.list, 70);
     ScrollSelectedItemIntoView(made.viewport, made.list);
-    m_toolkit->Settle();
-    int rowTop = ValueOf<Position>(made.list, XtNy) + margin + 70 * rowHeight;
+    Settle();
+    int rowTop = WidgetResource<Position>(made.list, XtNy) + margin + 70 * rowHeight;
     EXPECT_GE(rowTop, -margin - 1) << "row height " << rowHeight;
     EXPECT_LE(rowTop, margin + 1) << "row height " << rowHeight;
 
     // The last row: the list goes as far as it can, its end at the bottom of the view.
     XawListHighlight(made.list, 99);
     ScrollSelectedItemIntoView(made.viewport, made.list);
-    m_toolkit->Settle();
-    EXPECT_EQ(ValueOf<Position>(made.list, XtNy), viewHeight - listHeight);
+    Settle();
+    EXPECT_EQ(WidgetResource<Position>(made.list, XtNy), viewHeight - listHeight);
 
     // With nothing highlighted the view stays where it is.
-    Position before = ValueOf<Position>(made.list, XtNy);
+    Position before = WidgetResource<Position>(made.list, XtNy);
     XawListUnhighlight(made.list);
     ScrollSelectedItemIntoView(made.viewport, made.list);
-    m_toolkit->Settle();
-    EXPECT_EQ(ValueOf<Position>(made.list, XtNy), before);
+    Settle();
+    EXPECT_EQ(WidgetResource<Position>(made.list, XtNy), before);
     XtDestroyWidget(made.shell);
-}
 
-TEST_F(XHelpersTest, ScrollSelectedItemIntoViewLeavesAShortListAlone) {
-    ListInViewport made = MakeList(Connection(), 3);
-    m_toolkit->Settle();
+    // A short list is left alone.
+    made = MakeList(display, 3);
+    Settle();
     ASSERT_EQ(XtNameToWidget(made.viewport, "vertical"), nullptr)
         << "a list that fits needs no scrollbar";
     XawListHighlight(made.list, 2);
     ScrollSelectedItemIntoView(made.viewport, made.list);
-    m_toolkit->Settle();
-    EXPECT_EQ(ValueOf<Position>(made.list, XtNy), 0);
+    Settle();
+    EXPECT_EQ(WidgetResource<Position>(made.list, XtNy), 0);
     XtDestroyWidget(made.shell);
 }
 
@@ -213,16 +163,16 @@ TEST_F(XHelpersTest, OverrideScrollbarTranslationsLetsBothButtonsDragTheThumb) {
         XawScrollbarSetThumb(scrollbar, 0.0, 0.1);
         OverrideScrollbarTranslations(scrollbar);
         XtRealizeWidget(shell);
-        m_toolkit->Settle();
+        Settle();
         jumps = 0;
 
         SendPointer(scrollbar, ButtonPress, c.button, 10, 150, 0);
-        float afterPress = ValueOf<float>(scrollbar, XtNtopOfThumb);
+        float afterPress = WidgetResource<float>(scrollbar, XtNtopOfThumb);
         EXPECT_GT(afterPress, 0.5f);
         EXPECT_LT(afterPress, 0.9f);
 
         SendPointer(scrollbar, MotionNotify, 0, 10, 50, c.held);
-        float afterMotion = ValueOf<float>(scrollbar, XtNtopOfThumb);
+        float afterMotion = WidgetResource<float>(scrollbar, XtNtopOfThumb);
         EXPECT_LT(afterMotion, 0.4f);
         EXPECT_GE(afterMotion, 0.0f);
 

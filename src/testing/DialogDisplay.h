@@ -15,18 +15,25 @@
 #include <X11/Intrinsic.h>
 #include <X11/Shell.h>
 #include <X11/StringDefs.h>
+#include <X11/Xaw/AsciiText.h>
 #include <X11/Xaw/Form.h>
 
 #include <clocale>
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "dialogs/DefaultFontSet.h"
+#include "dialogs/XHelpers.h"
 #include "session/SessionState.h"
 #include "testing/ScopedSettings.h"
 #include "testing/ToolkitDisplay.h"
 #include "testing/XvfbServer.h"
+
+// A command the dialogs queued: its type, action ID, minutes and seconds.
+using QueuedCommand = std::tuple<UICommandType, unsigned long long, long, uint32_t>;
 
 // Returns the value of a widget's resource, read as T through the toolkit.
 template <class T>
@@ -41,6 +48,19 @@ T WidgetResource(Widget widget, char const* resource) {
 inline std::string WidgetText(Widget widget, char const* resource) {
     char* value = WidgetResource<char*>(widget, resource);
     return value ? std::string(value) : std::string();
+}
+
+// Checks the text box the dialogs show their texts in: 100 high, wrapped at words, always with
+// a vertical scrollbar, no caret; the user can scroll it but cannot type in it.
+inline void ExpectReadOnlyTextBox(Widget text) {
+    SCOPED_TRACE(XtName(text));
+    EXPECT_EQ(XtClass(text), asciiTextWidgetClass);
+    EXPECT_EQ(WidgetResource<Dimension>(text, XtNheight), 100);
+    EXPECT_EQ(WidgetResource<XawTextScrollMode>(text, XtNscrollVertical), XawtextScrollAlways);
+    EXPECT_EQ(WidgetResource<XawTextWrapMode>(text, XtNwrap), XawtextWrapWord);
+    EXPECT_FALSE(WidgetResource<Boolean>(text, XtNdisplayCaret));
+    EXPECT_FALSE(WidgetResource<Boolean>(text, XtNsensitive));
+    EXPECT_NE(TextVerticalScrollbar(text), nullptr);
 }
 
 // The server and the display last for the whole test program: the toolkit and its libraries
@@ -106,12 +126,35 @@ class DialogDisplayTest : public ::testing::Test {
         Settle();
     }
 
-    // Returns and removes every command that the dialogs queued.
-    std::vector<UICommand> TakeCommands() {
+    // Sends a pointer event (a press, a release or a motion) to the widget's window through the
+    // server, as a real one would arrive there, and lets the widgets handle it.
+    void SendPointer(Widget widget, int type, unsigned button, int x, int y, unsigned state) {
+        XEvent event{};
+        XButtonEvent& pointer = event.xbutton;
+        pointer.type = type;
+        pointer.display = display;
+        pointer.window = XtWindow(widget);
+        pointer.root = DefaultRootWindow(display);
+        pointer.x = x;
+        pointer.y = y;
+        pointer.state = state;
+        pointer.button = button;
+        pointer.same_screen = True;
+        if (type == MotionNotify) event.xmotion.is_hint = NotifyNormal;
+        XSendEvent(display, XtWindow(widget), False, NoEventMask, &event);
+        Settle();
+    }
+
+    // Returns and removes every command that the dialogs queued, so that a test compares them
+    // all in one assertion.
+    std::vector<QueuedCommand> TakeCommands() {
         FiFoQueue<std::unique_ptr<UICommand>> queued;
         uiCommandQ.ReadMessages(queued);
-        std::vector<UICommand> commands;
-        while (!queued.IsEmpty()) commands.push_back(*queued.TakeFirst());
+        std::vector<QueuedCommand> commands;
+        while (!queued.IsEmpty()) {
+            std::unique_ptr<UICommand> c = queued.TakeFirst();
+            commands.emplace_back(c->m_command, c->m_actionID, c->m_minutes, c->m_seconds);
+        }
         return commands;
     }
 

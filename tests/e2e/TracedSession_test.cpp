@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <string>
 
 #include "AgentSimulator.h"
+#include "testing/AgentExit.h"
 #include "testing/PipeFrames.h"
 #include "testing/TemporaryDirectory.h"
 #include "testing/XvfbServer.h"
@@ -23,14 +25,6 @@ void LaunchTracedAndGreeted(AgentSimulator& agent) {
     agent.CaptureErrorOutput();
     agent.Launch(ZOLCLIENTUI_PATH);
     ASSERT_TRUE(agent.ReceiveFrame(5000).has_value()) << "no greeting";
-}
-
-void CloseAndExpectStatusZero(AgentSimulator& agent) {
-    agent.CloseToProcess();
-    auto end = agent.WaitForExit(15000);
-    ASSERT_TRUE(end.has_value()) << "the process did not end";
-    EXPECT_TRUE(end->exited);
-    EXPECT_EQ(end->status, 0);
 }
 
 std::string TracedDocument(std::string const& children) {
@@ -53,9 +47,7 @@ std::string FirstDocumentFor(std::string const& directory) {
 }
 
 int TraceLines(std::string const& output) {
-    int lines = 0;
-    for (char c : output) lines += c == '\n';
-    return lines;
+    return static_cast<int>(std::count(output.begin(), output.end(), '\n'));
 }
 
 class TracedSession : public TemporaryDirectory {};
@@ -91,7 +83,8 @@ TEST_F(TracedSession, TheFirstDocumentFillsTheDirectoryEndsTheWaitAndASecondIsSk
     EXPECT_TRUE(Exists(other + "/kept")) << "a second first document emptied its directory";
     EXPECT_FALSE(Exists(other + "/notes.txt"));
     EXPECT_EQ(ReadText(Path("notes.txt")), "hello\n");
-    CloseAndExpectStatusZero(agent);
+    agent.CloseToProcess();
+    ExpectExitStatus(agent, 0);
 }
 
 TEST_F(TracedSession, ABaseDirectoryThatIsALinkKeepsTheProcessWaiting) {
@@ -107,7 +100,8 @@ TEST_F(TracedSession, ABaseDirectoryThatIsALinkKeepsTheProcessWaiting) {
     EXPECT_TRUE(agent.WaitForErrorOutput("handled InitializationInfo", 8000))
         << agent.ErrorOutput();
     EXPECT_EQ(ReadText(Path("real/notes.txt")), "hello\n");
-    CloseAndExpectStatusZero(agent);
+    agent.CloseToProcess();
+    ExpectExitStatus(agent, 0);
 }
 
 TEST(TracedDispatch, BrokenFramesNeverStopTheReadingAndAGoodDocumentBehindThemIsHandled) {
@@ -149,5 +143,6 @@ TEST(TracedDispatch, BrokenFramesNeverStopTheReadingAndAGoodDocumentBehindThemIs
 
     agent.SendFrame(TracedDocument(TracedAction(77)));
     EXPECT_TRUE(agent.WaitForErrorOutput("handled ActionRequest 77", 5000)) << agent.ErrorOutput();
-    CloseAndExpectStatusZero(agent);
+    agent.CloseToProcess();
+    ExpectExitStatus(agent, 0);
 }

@@ -18,6 +18,7 @@
 #include <string>
 
 #include "AgentSimulator.h"
+#include "testing/AgentExit.h"
 #include "testing/Eventually.h"
 #include "testing/TemporaryDirectory.h"
 #include "testing/XvfbServer.h"
@@ -101,13 +102,6 @@ class XSessionTest : public TemporaryDirectory {
         text << file.rdbuf();
         return text.str();
     }
-
-    static void ExpectExit(AgentSimulator& agent, int status) {
-        auto end = agent.WaitForExit(20000);
-        ASSERT_TRUE(end.has_value()) << "the process did not end";
-        EXPECT_TRUE(end->exited) << "ended by signal " << end->status;
-        EXPECT_EQ(end->status, status);
-    }
 };
 
 }  // namespace
@@ -116,7 +110,7 @@ TEST_F(XSessionTest, ADisplayThatCannotBeOpenedEndsWith255) {
     // A display number with no server behind it: the socket does not exist.
     AgentSimulator agent;
     StartSession(agent, ":4093");
-    ExpectExit(agent, 255);
+    ExpectExitStatus(agent, 255);
 }
 
 TEST_F(XSessionTest, TheServerGoingAwayEndsWithZero) {
@@ -129,7 +123,7 @@ TEST_F(XSessionTest, TheServerGoingAwayEndsWithZero) {
         << "the hidden window never appeared";
     XCloseDisplay(connection);
     server.Kill();
-    ExpectExit(agent, 0);
+    ExpectExitStatus(agent, 0);
 }
 
 // The start-up leaves a server without fonts as it is; the first widget that needs a font
@@ -147,7 +141,7 @@ TEST_F(XSessionTest, AServerWithoutFontsIsReportedTwiceThenEndsWithZero) {
     EXPECT_EQ(agent.ReceiveFrame(15000), report);
     EXPECT_EQ(agent.ReceiveFrame(5000), report);
     auto const reported = std::chrono::steady_clock::now();
-    ExpectExit(agent, 0);
+    ExpectExitStatus(agent, 0);
     EXPECT_GE(std::chrono::steady_clock::now() - reported, std::chrono::milliseconds(1500))
         << "ended without the pause that lets the reports leave";
 }
@@ -175,12 +169,12 @@ TEST_F(XSessionTest, AnOpenMessageToTheHiddenWindowAsksForTheActionDialogOnTheNe
     EXPECT_EQ(trace.find("handled command "), trace.find(handled)) << trace;
     XCloseDisplay(connection);
     agent.CloseToProcess();
-    ExpectExit(agent, 0);
+    ExpectExitStatus(agent, 0);
 }
 
 TEST_F(XSessionTest, AnExceptionInsideATickEndsTheProcessNormally) {
     XvfbServer server;
     AgentSimulator agent;
     StartSession(agent, server.DisplayName(), STANDIN_PATH);
-    ExpectExit(agent, 0);
+    ExpectExitStatus(agent, 0);
 }
