@@ -54,14 +54,8 @@ void BuildActionDetailsDialog(unsigned long long actionID) {
 
     count = 0;
     SetArg(arguments[count], XtNinternational, multibyte), ++count;
-    SetArg(arguments[count], XtNtype, XawAsciiString), ++count;
-    SetArg(arguments[count], XtNwidth, 500), ++count;
-    SetArg(arguments[count], XtNheight, 100), ++count;
-    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
-    SetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
-    SetArg(arguments[count], XtNdisplayCaret, False), ++count;
+    AddReadOnlyTextArguments(arguments, count, 500, 100);
     SetArg(arguments[count], XtNstring, TextWidgetString(*previewSlot)), ++count;
-    SetArg(arguments[count], XtNsensitive, False), ++count;
     detailsText =
         XtCreateManagedWidget("actiondetails", asciiTextWidgetClass, form, arguments, count);
 

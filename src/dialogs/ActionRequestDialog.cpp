@@ -507,21 +507,8 @@ void BuildTree() {
         XtCreateManagedWidget("actiontitle", labelWidgetClass, w.form, arguments, count);
 
     count = 0;
-    SetArg(arguments[count], XtNtype, XawAsciiString);
-    ++count;
-    SetArg(arguments[count], XtNwidth, 500);
-    ++count;
-    SetArg(arguments[count], XtNheight, 70);
-    ++count;
-    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways);
-    ++count;
-    SetArg(arguments[count], XtNwrap, XawtextWrapWord);
-    ++count;
+    AddReadOnlyTextArguments(arguments, count, 500, 70);
     SetArg(arguments[count], XtNfromVert, w.actionTitle);
-    ++count;
-    SetArg(arguments[count], XtNdisplayCaret, False);
-    ++count;
-    SetArg(arguments[count], XtNsensitive, False);
     ++count;
     AddInternational(arguments, count);
     w.actionDesc =

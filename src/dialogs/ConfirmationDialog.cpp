@@ -92,15 +92,9 @@ void BuildConfirmationRequestDialog(unsigned long long actionID) {
 
     count = 0;
     SetArg(arguments[count], XtNinternational, multibyte), ++count;
-    SetArg(arguments[count], XtNtype, XawAsciiString), ++count;
-    SetArg(arguments[count], XtNwidth, m_confirmationWidth), ++count;
-    SetArg(arguments[count], XtNheight, 100), ++count;
-    SetArg(arguments[count], XtNscrollVertical, XawtextScrollAlways), ++count;
-    SetArg(arguments[count], XtNwrap, XawtextWrapWord), ++count;
-    SetArg(arguments[count], XtNdisplayCaret, False), ++count;
+    AddReadOnlyTextArguments(arguments, count, m_confirmationWidth, 100);
     SetArg(arguments[count], XtNfromVert, explanation), ++count;
     SetArg(arguments[count], XtNstring, TextWidgetString(*confirmationSlot)), ++count;
-    SetArg(arguments[count], XtNsensitive, False), ++count;
     Widget message =
         XtCreateManagedWidget("actionconfirmation", asciiTextWidgetClass, form, arguments, count);
 

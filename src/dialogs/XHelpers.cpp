@@ -2,6 +2,7 @@
 
 #include <X11/IntrinsicP.h>
 #include <X11/StringDefs.h>
+#include <X11/Xaw/AsciiText.h>
 #include <X11/Xaw/List.h>
 #include <X11/Xaw/Scrollbar.h>
 #include <X11/Xaw/TextP.h>
@@ -64,6 +65,16 @@ Widget TextVerticalScrollbar(Widget text) {
 
 void OverrideTextScrollbarTranslations(Widget text) {
     if (Widget scrollbar = TextVerticalScrollbar(text)) OverrideScrollbarTranslations(scrollbar);
+}
+
+void AddReadOnlyTextArguments(Arg* arguments, Cardinal& count, Dimension width, Dimension height) {
+    SetArg(arguments[count++], XtNtype, XawAsciiString);
+    SetArg(arguments[count++], XtNwidth, width);
+    SetArg(arguments[count++], XtNheight, height);
+    SetArg(arguments[count++], XtNscrollVertical, XawtextScrollAlways);
+    SetArg(arguments[count++], XtNwrap, XawtextWrapWord);
+    SetArg(arguments[count++], XtNdisplayCaret, False);
+    SetArg(arguments[count++], XtNsensitive, False);
 }
 
 char* TextWidgetString(std::string const& text) {

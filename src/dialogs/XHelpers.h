@@ -23,6 +23,11 @@ void SetArg(Arg& argument, char const* name, Value value) {
     }
 }
 
+// Appends the resources of a read-only text box: an ASCII text of the given size that wraps
+// at words, always shows its vertical scrollbar, shows no caret and takes no input. Adds seven
+// entries.
+void AddReadOnlyTextArguments(Arg* arguments, Cardinal& count, Dimension width, Dimension height);
+
 // Moves the shell so that it stands in the middle of the default screen of its display, from
 // its current width and height, dividing toward zero. Call it after realizing; a window
 // manager may still place the window otherwise.
