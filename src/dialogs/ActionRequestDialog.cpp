@@ -546,28 +546,27 @@ void BuildTree() {
 
     w.takeAllActions = MakeButton("takeAllActions", *m_takeAllSlot, w.viewport, OnTakeAll);
     w.takeActions = MakeButton("takeActions", *m_takeSlot, w.viewport, OnTake);
-    int const Wt = WidthOf(w.takeActions);
-    SetHorizDistance(w.takeActions, T + B - Wt);
     w.cancelAction = MakeButton("cancelAction", *m_cancelSlot, w.viewport, OnCancel);
-    int const Wc = WidthOf(w.cancelAction);
-    SetHorizDistance(w.cancelAction, T - 5 * B - Wc - Wt);
     w.actionDetails = MakeButton("actionDetails", *m_detailsSlot, w.viewport, OnDetails);
+    int const Wt = WidthOf(w.takeActions);
+    int const Wc = WidthOf(w.cancelAction);
     int const Wd = WidthOf(w.actionDetails);
-    SetHorizDistance(w.actionDetails, T - 11 * B - Wc - Wt - Wd);
     int const Wa = WidthOf(w.takeAllActions);
 
     // Translated labels can be wider than the text box: the dialog then grows to suit them.
     int const needed = Wa + Wc + Wt + Wd + 20 * B;
-    if (needed > T) {
+    bool const grown = needed > T;
+    if (grown) {
         T = static_cast<std::uint16_t>(needed);
-        SetHorizDistance(w.takeActions, T + B - Wt);
-        SetHorizDistance(w.cancelAction, T - 5 * B - Wc - Wt);
-        SetHorizDistance(w.actionDetails, T - 11 * B - Wc - Wt - Wd);
         XtVaSetValues(w.actionTitle, XtNwidth, static_cast<Dimension>(T - B), nullptr);
         XtVaSetValues(w.actionDesc, XtNwidth, static_cast<Dimension>(T - B), nullptr);
         XtVaSetValues(w.viewport, XtNwidth, static_cast<Dimension>(T - 15 - B), nullptr);
-        XawFormDoLayout(w.form, True);
     }
+    // The three row buttons stand right-aligned on the text box, from right to left.
+    SetHorizDistance(w.takeActions, T + B - Wt);
+    SetHorizDistance(w.cancelAction, T - 5 * B - Wc - Wt);
+    SetHorizDistance(w.actionDetails, T - 11 * B - Wc - Wt - Wd);
+    if (grown) XawFormDoLayout(w.form, True);
 
     count = 0;
     SetArg(arguments[count], XtNborderWidth, 0);
