@@ -9,10 +9,10 @@
 #include <memory>
 #include <string>
 
+#include "dialogs/ShownText.h"
 #include "dialogs/XHelpers.h"
 #include "session/DialogCalls.h"
 #include "session/SessionCalls.h"
-#include "text/unicode/MakeLocalString.h"
 
 namespace {
 
@@ -34,9 +34,9 @@ void BuildActionDetailsDialog(unsigned long long actionID) {
     for (ActionRequest const& action : actions) {
         if (action.m_id != actionID) continue;
         // The button that opens this dialog is sensitive only for an action with a preview;
-        // one without shows an empty box.
-        previewSlot = action.m_preview ? ControlLiteral(MakeLocalString(*action.m_preview))
-                                       : std::make_unique<std::string>();
+        // one without shows an empty box. The script is shown, never refused.
+        previewSlot = std::make_unique<std::string>(action.m_preview ? ShownText(*action.m_preview)
+                                                                     : std::string());
         break;
     }
     titleSlot = ControlLiteral("Action Script Preview");

@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "dialogs/DialogErrors.h"
+#include "dialogs/ShownText.h"
 #include "dialogs/XHelpers.h"
 #include "localized/ActionSummary.h"
 #include "localized/DeadlineText.h"
@@ -121,6 +122,14 @@ void SetLabel(Widget widget, std::unique_ptr<std::string>& slot, AutoUString<UTF
 void SetActionTitleText(AutoUString<UTF8> const& text) {
     SetLabel(w.actionTitle, m_actionTitleSlot, text);
 }
+// The label over the description, made from the selected action's title: shown, never refused,
+// and cut to what a label can draw.
+void SetShownActionTitleText(AutoUString<UTF8> const& text) {
+    m_actionTitleSlot = std::make_unique<std::string>(ShortShownText(text));
+    Arg argument;
+    SetArg(argument, XtNlabel, m_actionTitleSlot->c_str());
+    XtSetValues(w.actionTitle, &argument, 1);
+}
 void SetSnoozeButtonText(AutoUString<UTF8> const& text) {
     SetLabel(w.snoozeButton, m_snoozeLabelSlot, text);
 }
@@ -130,8 +139,10 @@ void SetTakeText(AutoUString<UTF8> const& text) {
 void SetCancelText(AutoUString<UTF8> const& text) {
     SetLabel(w.cancelAction, m_cancelSlot, text);
 }
+// The description holds the agent's text and the summary sentences around it: shown, never
+// refused.
 void SetDescriptionText(AutoUString<UTF8> const& text) {
-    m_descriptionSlot = ControlLiteral(MakeLocalString(text));
+    m_descriptionSlot = std::make_unique<std::string>(ShownText(text));
     char* copy = TextWidgetString(*m_descriptionSlot);
     Arg argument;
     SetArg(argument, XtNstring, copy);
@@ -157,17 +168,23 @@ void RefreshActionList() {
     strings.reserve(actions.size());
     ids.reserve(actions.size());
     for (ActionRequest const& action : actions) {
-        AutoNullTerminated<char> const title = MakeLocalString(action.m_title);
         // An action without a title has no row; it still counts wherever actions are walked.
-        if (!title.pointer || !*title.pointer) continue;
+        if (action.m_title.Length() == 0) continue;
         AutoNullTerminated<char> deadlineText = MakeLocalString(UFormat(""));
         NullOr<Instant> const deadline = action.Deadline();
         if (deadline) deadlineText = MakeLocalString(UnixPlatform::FormattedLocalTime(*deadline));
-        std::string row = title.pointer;
+        std::string tail;
         if (*deadlineText.pointer) {
-            row += "  --  ";
-            row += deadlineText.pointer;
+            tail = "  --  ";
+            tail += deadlineText.pointer;
         }
+        // The title is shown whatever it holds, so that every action with a title has its row,
+        // and it is cut so that the whole row, deadline included, stays within what one row
+        // draws: a row of the whole title could pass the size limit of an X request.
+        std::size_t const tailCharacters = LocalCharacterCount(tail);
+        std::size_t const titleCharacters =
+            tailCharacters < maxShownCharacters ? maxShownCharacters - tailCharacters : 0;
+        std::string const row = ShortShownText(action.m_title, titleCharacters) + tail;
         strings.push_back(CopyOf(row.c_str()));
         ids.push_back(action.m_id);
     }
@@ -323,7 +340,7 @@ void RefreshActionControls() {
         SetCancelText(Literal("Cancel Action"));
         ActionRequest const* selected = FindAction(m_actionIDs[m_selectedAction]);
         if (!selected) throw NoSelectedAction();
-        SetActionTitleText(
+        SetShownActionTitleText(
             MakeUString(UFormat("{actionTitle}").With(UStringRef<UTF8>(selected->m_title))));
         AutoUString<UTF8> const summary = ActionSummary(*selected);
         SetDescriptionText(MakeUString(UFormat("{actionDescription}\n\n{actionSummary}")

@@ -335,6 +335,21 @@ TEST_F(ActionRequestDialogTest, RowsShowTitleAndLocalDeadline) {
     EXPECT_EQ(Label("actiontitle"), "Gamma");
 }
 
+// A title longer than a row draws is cut so that the row, deadline included, holds 1000
+// characters, "..." among them (the plain locale has no ellipsis character); the heading of the
+// selected action likewise.
+TEST_F(ActionRequestDialogTest, ALongTitleIsCutToWhatARowDrawsWithItsDeadlineKept) {
+    ActionRequest due = DueIn(PendingAction(1, std::string(3000, 'L')), 7200);
+    actions = {due, PendingAction(2, std::string(1000, 'M'))};
+    Show();
+    std::string const tail = "  --  " + Str(UnixPlatform::FormattedLocalTime(*due.Deadline()));
+    EXPECT_EQ(RowsOf(ActionList()),
+              (std::vector<std::string>{std::string(997 - tail.size(), 'L') + "..." + tail,
+                                        std::string(1000, 'M')}));
+    SelectRow(0);
+    EXPECT_EQ(Label("actiontitle"), std::string(997, 'L') + "...");
+}
+
 TEST_F(ActionRequestDialogTest, DescriptionIsTheActionsTextThenItsSummary) {
     ActionRequest restart = DueIn(PendingAction(7, "Patch kernel"), 3 * 3600);
     restart.m_restart = true;

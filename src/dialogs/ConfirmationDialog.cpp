@@ -10,10 +10,10 @@
 #include <memory>
 #include <string>
 
+#include "dialogs/ShownText.h"
 #include "dialogs/XHelpers.h"
 #include "session/DialogCalls.h"
 #include "session/SessionCalls.h"
-#include "text/unicode/MakeLocalString.h"
 
 unsigned long long m_confirmedAction = 0;
 int m_confirmationWidth = 500;
@@ -45,11 +45,11 @@ void BuildConfirmationRequestDialog(unsigned long long actionID) {
     m_confirmedAction = actionID;
     for (ActionRequest const& action : actions) {
         if (action.m_id != actionID) continue;
-        // The caller opens this dialog only for an action whose message is present.
-        confirmationSlot = action.m_preActionMessage
-                               ? ControlLiteral(MakeLocalString(*action.m_preActionMessage))
-                               : std::make_unique<std::string>();
-        actionTitleSlot = ControlLiteral(MakeLocalString(action.m_title));
+        // The caller opens this dialog only for an action whose message is present. The
+        // agent's texts are shown, never refused; the title label is cut to what a label draws.
+        confirmationSlot = std::make_unique<std::string>(
+            action.m_preActionMessage ? ShownText(*action.m_preActionMessage) : std::string());
+        actionTitleSlot = std::make_unique<std::string>(ShortShownText(action.m_title));
         break;
     }
     dialogTitleSlot = ControlLiteral("Confirmation Required");

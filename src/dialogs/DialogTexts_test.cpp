@@ -1,7 +1,8 @@
 // The texts of the dialogs in a session that runs in a real locale: they reach the widgets in
-// the locale's encoding, and the widgets are all multibyte. A dialog with a text that the locale
-// cannot express is not built: the agent is told which dialog failed, twice, and the process
-// ends with status 0. Those cases run in a child process with the pipe to the agent running.
+// the locale's encoding, and the widgets are all multibyte. The agent's texts are shown whatever
+// they hold; a dialog with a text of its own that the locale cannot express is not built: the
+// agent is told which dialog failed, twice, and the process ends with status 0. Those cases run
+// in a child process with the pipe to the agent running.
 
 // The testing fixture comes before the X headers, whose macros (None, Bool) would break GoogleTest.
 #include "testing/DialogDisplay.h"
@@ -95,38 +96,48 @@ void ExpectMultibyteBelow(Widget widget) {
 
 }  // namespace
 
+// The agent's texts are shown whatever they hold: what Latin-1 lacks, and bytes that are not
+// UTF-8, become "?" (Latin-1 has no U+FFFD); a title is cut to 1000 characters with "...".
 TEST_F(Latin1DialogsTest, TextsReachTheWidgetsInTheLocaleEncoding) {
     ScopedTranslation translation("OK\t" + sizeInUTF8 + "\n");
+    std::string const longTail(2000, 'n');
     ActionRequest action;
     action.m_id = 1;
-    action.m_title = SharedText(sizeInUTF8 + " title");
-    action.m_preview = SharedText(sizeInUTF8 + " preview");
-    action.m_preActionMessage = SharedText(sizeInUTF8 + " message");
+    action.m_title = SharedText(sizeInUTF8 + " title" + omega + "\xFF" + longTail);
+    action.m_preview = SharedText(sizeInUTF8 + " preview" + omega);
+    action.m_preActionMessage = SharedText(sizeInUTF8 + " message\xC0");
     actions.push_back(action);
     MessageRequest request;
     request.m_id = 2;
-    request.m_title = SharedText(sizeInUTF8 + " notice");
-    request.m_message = SharedText(sizeInUTF8 + " text");
+    request.m_title = SharedText(sizeInUTF8 + " notice" + omega + longTail);
+    request.m_message = SharedText(sizeInUTF8 + " text" + omega);
+    MessageRequest completion;
+    completion.m_id = 3;
+    completion.m_isCompletionMessage = true;
+    completion.m_title = SharedText(omega);
 
     ShowActionDetailsDialog(1);
     ShowConfirmationRequestDialog(1);
     ShowMessageDialog(request);
     ShowQuietModeDialog(Instant::Now(), Instant::Now() + TimeInterval(3600000000LL));
+    ShowMessageDialog(completion);
 
     std::vector<Widget> shells = TopLevelShells();
-    ASSERT_EQ(shells.size(), 4u);
+    ASSERT_EQ(shells.size(), 5u);
     struct Shown {
         char const* widget;
         char const* resource;
         std::string text;
     };
+    // "Größe title??" and "Größe notice?" are 13 characters: 984 more fit before the "...".
     Shown const expected[] = {
-        {"form.actiondetails", XtNstring, sizeInLatin1 + " preview"},
+        {"form.actiondetails", XtNstring, sizeInLatin1 + " preview?"},
         {"form.ok", XtNlabel, sizeInLatin1},
-        {"form.actiontitle", XtNlabel, sizeInLatin1 + " title"},
-        {"form.actionconfirmation", XtNstring, sizeInLatin1 + " message"},
-        {"form.actionmessage", XtNstring, sizeInLatin1 + " text"},
+        {"form.actiontitle", XtNlabel, sizeInLatin1 + " title??" + std::string(984, 'n') + "..."},
+        {"form.actionconfirmation", XtNstring, sizeInLatin1 + " message?"},
+        {"form.actionmessage", XtNstring, sizeInLatin1 + " text?"},
         {"form.dismiss", XtNlabel, sizeInLatin1},
+        {"form.actionmessage", XtNstring, "Action \"?\" has completed."},
     };
     for (Shown const& shown : expected) {
         SCOPED_TRACE(shown.widget);
@@ -138,7 +149,9 @@ TEST_F(Latin1DialogsTest, TextsReachTheWidgetsInTheLocaleEncoding) {
         }
         EXPECT_GE(found, 1);
     }
-    EXPECT_EQ(WidgetText(shells[2], XtNtitle), sizeInLatin1 + " notice");
+    EXPECT_EQ(WidgetText(shells[2], XtNtitle),
+              sizeInLatin1 + " notice?" + std::string(984, 'n') + "...");
+    EXPECT_EQ(WidgetText(shells[4], XtNtitle), "Quorvane notification:");
     for (Widget shell : shells) ExpectMultibyteBelow(shell);
 }
 
@@ -147,9 +160,12 @@ TEST(DialogBuildFailure, EachDialogReportsItsNameAndEndsWithZero) {
         char const* dialog;
         std::function<void()> show;
     };
+    // Each dialog fails on a text of its own, here its title or its button translated into
+    // Greek; the agent's texts are shown whatever they hold and never fail a dialog.
     Case const cases[] = {
         {"ActionDetailsDialog",
          [] {
+             static ScopedTranslation const translation("Action Script Preview\t" + omega + "\n");
              ActionRequest action;
              action.m_id = 3;
              action.m_title = SharedText("Update");
@@ -159,6 +175,7 @@ TEST(DialogBuildFailure, EachDialogReportsItsNameAndEndsWithZero) {
          }},
         {"ConfirmationDialog",
          [] {
+             static ScopedTranslation const translation("Confirmation Required\t" + omega + "\n");
              ActionRequest action;
              action.m_id = 4;
              action.m_title = SharedText("Update");
@@ -168,6 +185,7 @@ TEST(DialogBuildFailure, EachDialogReportsItsNameAndEndsWithZero) {
          }},
         {"MessageDialog",
          [] {
+             static ScopedTranslation const translation("OK\t" + omega + "\n");
              MessageRequest request;
              request.m_id = 5;
              request.m_title = SharedText(omega);

@@ -8,6 +8,7 @@
 
 #include <memory>
 
+#include "dialogs/ShownText.h"
 #include "dialogs/XHelpers.h"
 #include "localized/UFormat.h"
 #include "session/DialogCalls.h"
@@ -25,20 +26,17 @@ Instant ExpiryOf(MessageRequest const& request) {
 }
 
 // A completion message shows a fixed notice around the request's title, and not its message.
+// The agent's texts, and the completion sentence built around its title, are shown, never
+// refused; a shell title made from the agent's title is cut to what a title bar can draw.
 std::string TitleOf(MessageRequest const& request) {
-    AutoUString<UTF8> const title = request.m_isCompletionMessage
-                                        ? MakeUString(UFormat("Quorvane notification:"))
-                                        : MakeUString(request.m_title);
-    return *ControlLiteral(MakeLocalString(title));
+    if (request.m_isCompletionMessage) return *ControlLiteral("Quorvane notification:");
+    return ShortShownText(request.m_title);
 }
 
 std::string MessageOf(MessageRequest const& request) {
-    AutoUString<UTF8> const message =
-        request.m_isCompletionMessage
-            ? MakeUString(UFormat("Action \"{actionTitle}\" has completed.")
-                              .With(UStringRef<UTF8>(request.m_title)))
-            : MakeUString(request.m_message);
-    return *ControlLiteral(MakeLocalString(message));
+    if (!request.m_isCompletionMessage) return ShownText(request.m_message);
+    return ShownText(MakeUString(UFormat("Action \"{actionTitle}\" has completed.")
+                                     .With(UStringRef<UTF8>(request.m_title))));
 }
 
 void DismissCallback(Widget, XtPointer clientData, XtPointer) {
