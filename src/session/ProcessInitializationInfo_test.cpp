@@ -2,11 +2,15 @@
 
 #include "session/ProcessInitializationInfo.h"
 
+#include <ftw.h>
 #include <gtest/gtest.h>
+#include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "files/FileErrors.h"
 #include "files/FileLocationFunctions.h"
@@ -32,6 +36,55 @@ struct Offered {
 };
 auto const brand = Offered::brand;
 auto const general = Offered::general;
+
+// Every path below the root, with its type and mode, in the order nftw walks them; links are
+// not followed.
+std::vector<std::string> TreeBelow(std::string const& root) {
+    static std::vector<std::string>* found = nullptr;
+    std::vector<std::string> paths;
+    found = &paths;
+    ::nftw(
+        root.c_str(),
+        [](char const* path, struct stat const* record, int, FTW*) {
+            found->push_back(std::string(path) + " " + std::to_string(record->st_mode));
+            return 0;
+        },
+        16, FTW_PHYS);
+    return paths;
+}
+
+// What the process writes on descriptor 2 (the trace) while it exists. The trace is switched on
+// for this whole test program before any test runs, since it is read once per process.
+class CapturedErrorOutput {
+  public:
+    CapturedErrorOutput() : m_saved(::dup(2)) {
+        EXPECT_EQ(0, ::pipe(m_pipe));
+        ::dup2(m_pipe[1], 2);
+        ::close(m_pipe[1]);
+    }
+    ~CapturedErrorOutput() {
+        ::dup2(m_saved, 2);
+        ::close(m_saved);
+        ::close(m_pipe[0]);
+    }
+    CapturedErrorOutput(CapturedErrorOutput const&) = delete;
+    CapturedErrorOutput& operator=(CapturedErrorOutput const&) = delete;
+
+    // Returns what was written so far; call it once.
+    std::string Text() const {
+        ::dup2(m_saved, 2);
+        std::string text;
+        char buffer[4096];
+        ssize_t n = 0;
+        while ((n = ::read(m_pipe[0], buffer, sizeof buffer)) > 0) text.append(buffer, n);
+        return text;
+    }
+
+  private:
+    int m_saved;
+    int m_pipe[2];
+};
+[[maybe_unused]] int const traceOn = ::setenv("ZOLCLIENTUI_TRACE", "1", 1);
 
 std::string Rendered(std::string const& key) {
     return Str(UStringRef<UTF8>(MakeUString(UFormat(key.c_str()))));
@@ -106,15 +159,18 @@ class ProcessInitializationInfoTest : public TemporaryDirectory {
 
 }  // namespace
 
-TEST_F(ProcessInitializationInfoTest, AMissingDirectoryIsMadeWithItsParentsForTheOwnerOnly) {
+// Under the umask 022 of the fixture the parents are 0755, as any program makes them; only the
+// session directory itself and its files are the owner's alone.
+TEST_F(ProcessInitializationInfoTest, AMissingDirectoryIsMadeOwnerOnlyAndItsParentsByTheUmask) {
     InitializationInfo info = Info("a/b/session");
     info.m_supportFiles.push_back(File("_brand.xlat", "hello\n"));
     info.m_supportFiles.push_back(File("page.html", std::string("\0\xff", 2), "sub"));
     ProcessInitializationInfo(info);
     EXPECT_TRUE(initialized);
     EXPECT_EQ(m_baseDirectory.LogString(), Path("a/b/session"));
-    for (char const* directory : {"a", "a/b", "a/b/session"})
-        EXPECT_EQ(Mode(Path(directory)), 0700u) << directory;
+    EXPECT_EQ(Mode(Path("a")), 0755u);
+    EXPECT_EQ(Mode(Path("a/b")), 0755u);
+    EXPECT_EQ(Mode(Path("a/b/session")), 0700u);
     EXPECT_EQ(ReadText(Path("a/b/session/_brand.xlat")), "hello\n");
     EXPECT_EQ(ReadText(Path("a/b/session/page.html")), std::string("\0\xff", 2))
         << "a sub-folder plays no part in where a file lands";
@@ -150,38 +206,81 @@ TEST_F(ProcessInitializationInfoTest, AnExistingDirectoryIsEmptiedButKeptWithIts
     EXPECT_EQ(ReadText(Path("session/new.xlat")), "second wins");
 }
 
-TEST_F(ProcessInitializationInfoTest, ADirectoryThatIsALinkIsRefusedAndLeftAlone) {
+// Each refusal comes before anything is deleted or made anywhere, leaves the process waiting,
+// and writes one trace line that says why.
+TEST_F(ProcessInitializationInfoTest, ARefusedFirstDocumentTouchesNothing) {
     MakeDirectory(Path("target"));
+    MakeDirectory(Path("target/sub"));
     WriteText(Path("target/precious"), "keep");
-    ASSERT_EQ(0, ::symlink(Path("target").c_str(), Path("session").c_str()));
+    MakeDirectory(Path("real"));
+    WriteText(Path("real/precious"), "keep");
+    WriteText(Path("file"), "x");
+    ASSERT_EQ(0, ::symlink(Path("target").c_str(), Path("link").c_str()));
     ASSERT_EQ(0, ::symlink(Path("nowhere").c_str(), Path("dangling").c_str()));
-    for (char const* base : {"session", "dangling"}) {
-        InitializationInfo info = Info(base);
-        info.m_supportFiles.push_back(File("f", "x"));
-        EXPECT_THROW(ProcessInitializationInfo(info), SessionDirectoryIsLink) << base;
+    std::string deep = Path("deep");
+    while (deep.size() < 5000) deep += "/" + std::string(99, 'd');
+    std::string nearlyTooLong = Path("near");
+    while (nearlyTooLong.size() < 4000) nearlyTooLong += "/" + std::string(99, 'n');
+
+    enum Refusal { directory, link, supportFile };
+    struct Case {
+        char const* what;
+        std::string base;
+        std::vector<FileTransfer> files;
+        Refusal refusal;
+        char const* why;
+    };
+    std::vector<FileTransfer> const oneFile{File("f", "x")};
+    Case const cases[] = {
+        {"a link with \"/.\"", Path("link") + "/.", oneFile, directory, "\".\" or \"..\""},
+        {"a link's folder and back", Path("link") + "/sub/..", oneFile, directory, "\"..\""},
+        {"the working directory", ".", oneFile, directory, "no absolute path"},
+        {"a relative path", "real", oneFile, directory, "no absolute path"},
+        {"no path", "", oneFile, directory, "no absolute path"},
+        {"a link", Path("link"), oneFile, link, "is a symbolic link"},
+        {"a dangling link", Path("dangling"), oneFile, link, "is a symbolic link"},
+        {"below a link", Path("link") + "/sub/session", oneFile, link, "is a symbolic link"},
+        {"below a file", Path("file") + "/session", oneFile, directory, "is no directory"},
+        {"a file", Path("file"), oneFile, directory, "is no directory"},
+        {"a path of 5,000 characters", deep, oneFile, directory, "longer than 4095 bytes"},
+        {"a name of 256 bytes", Path(std::string(256, 'c')), oneFile, directory, "255 bytes"},
+        {"a support file without a name",
+         Path("real"),
+         {File("f", "x"), FileTransfer()},
+         supportFile,
+         "has no name"},
+        {"a support file whose path is too long",
+         nearlyTooLong,
+         {File(std::string(200, 'f').c_str(), "x")},
+         supportFile,
+         "longer than 4095 bytes"},
+    };
+    std::vector<std::string> const before = TreeBelow(m_root);
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.what);
+        InitializationInfo info;
+        info.m_baseDirectory = MakeFileLocation(c.base.c_str());
+        info.m_supportFiles = c.files;
+        CapturedErrorOutput const trace;
+        bool refused = false;
+        try {
+            ProcessInitializationInfo(info);
+        } catch (SessionDirectoryIsLink const&) {
+            refused = c.refusal == link;
+        } catch (SessionDirectoryRefused const&) {
+            refused = c.refusal == directory;
+        } catch (SupportFileRefused const&) {
+            refused = c.refusal == supportFile;
+        }
+        std::string const lines = trace.Text();
+        EXPECT_TRUE(refused) << lines;
         EXPECT_FALSE(initialized);
+        EXPECT_EQ(std::count(lines.begin(), lines.end(), '\n'), 1) << lines;
+        EXPECT_NE(lines.find("zolclientui: refused InitializationInfo: "), std::string::npos);
+        EXPECT_NE(lines.find(c.why), std::string::npos) << lines;
+        EXPECT_EQ(TreeBelow(m_root), before) << "something was deleted or made";
     }
     EXPECT_EQ(ReadText(Path("target/precious")), "keep");
-    EXPECT_FALSE(Exists(Path("target/f")));
-    EXPECT_FALSE(Exists(Path("nowhere")));
-}
-
-TEST_F(ProcessInitializationInfoTest, AFailureLeavesTheProcessWaitingAndTheNextAttemptStartsOver) {
-    InitializationInfo unnamed = Info("session");
-    unnamed.m_supportFiles.push_back(File("first", "1"));
-    unnamed.m_supportFiles.push_back(FileTransfer());
-    unnamed.m_settings.m_remindInterval = TimeInterval(5);
-    EXPECT_THROW(ProcessInitializationInfo(unnamed), IllegalFileNameLength);
-    EXPECT_FALSE(initialized);
-    EXPECT_EQ(m_remindInterval, TimeInterval()) << "a later step ran after the failure";
-    EXPECT_TRUE(Exists(Path("session/first"))) << "steps already done stay done";
-
-    EXPECT_THROW(ProcessInitializationInfo(InitializationInfo()), EmptyFileLocationError);
-    EXPECT_FALSE(initialized);
-
-    ProcessInitializationInfo(Info("session"));
-    EXPECT_TRUE(initialized);
-    EXPECT_FALSE(Exists(Path("session/first"))) << "what the failed attempt wrote stayed";
 }
 
 TEST_F(ProcessInitializationInfoTest, ReminderSettingsAreTakenOver) {
@@ -261,10 +360,13 @@ TEST_F(ProcessInitializationInfoTest, AnUnknownLocaleFailsTheSetUpAfterTheFilesA
     EXPECT_TRUE(Exists(Path("session/zz.xlat")));
     EXPECT_EQ(Rendered("unknown locale"), "unknown locale");
 
+    // A second first document starts over: the directory is emptied of what the first wrote.
     info.m_settings.m_useLocale = false;
+    info.m_supportFiles = {File("other.xlat", "")};
     ProcessInitializationInfo(info);
     EXPECT_TRUE(initialized);
     EXPECT_EQ(m_remindInterval, TimeInterval(7));
+    EXPECT_FALSE(Exists(Path("session/zz.xlat")));
 }
 
 // The agent may make the directory for the user: whoever owns it, it is used and emptied.

@@ -15,9 +15,19 @@ struct FiFoQueueIsEmpty {};
 // Thrown by the action store for an ID it does not hold.
 class NoSuchActionRequestID : public DebuggableException {};
 
-// Thrown when the session directory named by the agent is a symbolic link: it is neither
-// emptied through the link nor used, and the process waits for a better first document.
-class SessionDirectoryIsLink : public DebuggableException {};
+// Thrown when the session directory named by the agent could lead elsewhere than it says or
+// cannot be used: it is empty or relative, has a "." or ".." component, a component that is no
+// directory or cannot be examined, or is too long. Nothing has been deleted or made, and the
+// process waits for a better first document.
+class SessionDirectoryRefused : public DebuggableException {};
+
+// Thrown when the session directory named by the agent, or a directory on its way, is a
+// symbolic link: nothing is emptied through the link.
+class SessionDirectoryIsLink : public SessionDirectoryRefused {};
+
+// Thrown when a support file has no name, a name or sub-folder that is no name, or would have
+// a path too long for the system. Nothing has been deleted or made.
+class SupportFileRefused : public DebuggableException {};
 
 // Thrown when the session is to follow the user's locale and the environment names one for the
 // character type that the system does not have.
