@@ -137,6 +137,11 @@ void AgentSimulator::CloseToProcess() {
     m_toProcess = -1;
 }
 
+void AgentSimulator::CloseFromProcess() {
+    if (m_fromProcess >= 0) close(m_fromProcess);
+    m_fromProcess = -1;
+}
+
 bool AgentSimulator::TakeFrameFromBuffer(std::string& frame) {
     if (m_received.size() < 4) return false;
     uint32_t length;

@@ -49,6 +49,9 @@ class AgentSimulator {
     bool SendRaw(std::string const& bytes);
     // Closes the pipe to the process: it sees end of stream on descriptor 0.
     void CloseToProcess();
+    // Closes the agent's reading end of the process's descriptor 1, as an agent that stops
+    // listening would: the process's next write finds no reader.
+    void CloseFromProcess();
 
     // Returns the next frame the process sends, or nothing if none is complete within
     // timeoutMs or the process closed its side.

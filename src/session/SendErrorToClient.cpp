@@ -8,6 +8,10 @@
 void SendErrorToClient(ClientUIErrorMessage& message) {
     WriteXMLToClient(message);
     WriteXMLToClient(message);
+    WaitForWriteQueue();
+}
+
+void WaitForWriteQueue() {
     for (int attempt = 0; attempt < 300; ++attempt) {
         if (writeQ.IsEmpty()) return;
         // A killed pipe never drains the queue: the agent's end is gone, nobody will read.

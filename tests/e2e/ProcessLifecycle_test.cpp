@@ -2,7 +2,6 @@
 // waiting process ends.
 
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <time.h>
 
 #include <cstdint>
@@ -76,15 +75,15 @@ TEST(ProcessLifecycle, BytesOneAtATimeAndEmptyFramesDoNoHarmAndAStreamEndingInAH
     ExpectExitStatus(agent, 0);
 }
 
-// No signal disposition is set by the process: when the agent has gone, the first write
-// raises SIGPIPE at its default disposition and the kernel ends the process there.
-TEST(ProcessLifecycle, NoReaderOnDescriptorOneEndsItBySigpipeAtTheFirstWrite) {
+// With no reader on descriptor 1 the greeting fails to go out, although SIGPIPE is at its
+// default disposition when the process starts: the pipe dies, and the process ends with status
+// 0 after the pause, as whenever the pipe dies.
+TEST(ProcessLifecycle, NoReaderOnDescriptorOneEndsItWithZeroAfterThePause) {
     AgentSimulator agent;
+    double const started = MonotonicSeconds();
     agent.Launch(ZOLCLIENTUI_PATH, {}, /*closeReadEnd=*/true);
-    auto end = agent.WaitForExit(10000);
-    ASSERT_TRUE(end.has_value()) << "the process survived writing to a pipe without reader";
-    EXPECT_TRUE(end->signalled);
-    EXPECT_EQ(end->status, SIGPIPE);
+    ExpectExitStatus(agent, 0);
+    EXPECT_GE(MonotonicSeconds() - started, 2.0) << "exit without the two-second pause";
 }
 
 // A parent may leave the pipe non-blocking: reading must wait for data, not end the session.

@@ -1,6 +1,7 @@
 // The built program with a real X server: how the running session ends when the display is
-// missing, goes away or has no fonts, how other X clients reach it through its hidden window,
-// and that an exception inside a tick ends it normally.
+// missing, goes away or has no fonts, or the agent stops reading, how other X clients reach it
+// through its hidden window, that an exception inside a tick ends it normally after its answers
+// have left, and that a huge title does not end it.
 
 // GoogleTest comes before the X headers, whose macros (None, Bool) would break it.
 #include <gtest/gtest.h>
@@ -14,10 +15,12 @@
 #include <chrono>
 #include <cstring>
 #include <fstream>
+#include <optional>
 #include <sstream>
 #include <string>
 
 #include "AgentSimulator.h"
+#include "ScenarioRunner.h"
 #include "testing/AgentExit.h"
 #include "testing/Eventually.h"
 #include "testing/TemporaryDirectory.h"
@@ -78,9 +81,7 @@ class XSessionTest : public TemporaryDirectory {
     void StartSession(AgentSimulator& agent, std::string const& displayName,
                       std::string const& program = ZOLCLIENTUI_PATH) {
         setenv("DISPLAY", displayName.c_str(), 1);
-        std::ofstream(Path("leaks.supp")) << __lsan_default_suppressions();
-        setenv("ASAN_OPTIONS", __asan_default_options(), 1);
-        setenv("LSAN_OPTIONS", ("suppressions=" + Path("leaks.supp")).c_str(), 1);
+        PassSanitizerSettings();
         int const saved = dup(2);
         int const log = open(Path("stderr").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
         dup2(log, 2);
@@ -95,6 +96,13 @@ class XSessionTest : public TemporaryDirectory {
     }
 
     std::string Path(std::string const& name) const { return m_root + "/" + name; }
+
+    // Hands the sanitizer settings of the X libraries to the programs started from here on.
+    void PassSanitizerSettings() {
+        std::ofstream(Path("leaks.supp")) << __lsan_default_suppressions();
+        setenv("ASAN_OPTIONS", __asan_default_options(), 1);
+        setenv("LSAN_OPTIONS", ("suppressions=" + Path("leaks.supp")).c_str(), 1);
+    }
 
     std::string StandardError() const {
         std::ifstream file(Path("stderr"));
@@ -172,9 +180,68 @@ TEST_F(XSessionTest, AnOpenMessageToTheHiddenWindowAsksForTheActionDialogOnTheNe
     ExpectExitStatus(agent, 0);
 }
 
-TEST_F(XSessionTest, AnExceptionInsideATickEndsTheProcessNormally) {
+// The stand-in's user takes the action as soon as it arrives; the tick that answers it then
+// throws. The answer still leaves before the process ends.
+TEST_F(XSessionTest, AnExceptionInsideATickEndsTheProcessNormallyAfterTheAnswersLeave) {
     XvfbServer server;
     AgentSimulator agent;
     StartSession(agent, server.DisplayName(), STANDIN_PATH);
+    agent.SendFrame(
+        "<ClientToUI><ActionRequest><ID>7</ID><Title>t</Title></ActionRequest>"
+        "</ClientToUI>");
+    std::optional<std::string> const answer = agent.ReceiveFrame(15000);
+    ASSERT_TRUE(answer.has_value()) << "the answer queued before the exception was lost";
+    EXPECT_NE(answer->find("<ActionTaken>"), std::string::npos) << *answer;
+    EXPECT_NE(answer->find("<ID>7</ID>"), std::string::npos) << *answer;
     ExpectExitStatus(agent, 0);
+}
+
+// An agent that stops reading: the answer of a binding deadline fails to go out, the pipe dies,
+// and the process ends with status 0 like any session whose pipe dies, not by a signal.
+TEST_F(XSessionTest, TheAgentClosingItsReadEndEndsTheSessionWithZero) {
+    XvfbServer server;
+    AgentSimulator agent;
+    StartSession(agent, server.DisplayName());
+    agent.CloseFromProcess();
+    agent.SendFrame(
+        "<ClientToUI><ActionRequest><ID>8</ID><Title>t</Title><ForceRun>true"
+        "</ForceRun><Deadline>1 Jan 2001 00:00 +0000</Deadline></ActionRequest>"
+        "</ClientToUI>");
+    ExpectExitStatus(agent, 0);
+}
+
+// A title of two million characters: its row and its label draw only its start, so no drawing
+// passes the size limit of an X request; the process lives and the action is answered.
+TEST_F(XSessionTest, AHugeTitleIsShownCutAndItsActionAnswered) {
+    std::ofstream(Path("huge.xml"))
+        << "<ClientToUI><ActionRequest><ID>9</ID><Title>" << std::string(2000000, 'W')
+        << "</Title></ActionRequest></ClientToUI>";
+    std::string const scenario =
+        "expect ReadyForData\n"
+        "send-text <ClientToUI><InitializationInfo><BaseDirectory>" +
+        Path("session") +
+        "</BaseDirectory></InitializationInfo></ClientToUI>\n"
+        "send huge.xml\n"
+        "send-text <ClientToUI><ActionRequest><ID>10</ID><Title>short</Title></ActionRequest>"
+        "</ClientToUI>\n"
+        "wait-window \"Action Requests\" within=20000\n"
+        "expect-rows \"Action Requests\" viewport 2\n"
+        "click \"Action Requests\" viewport row=0\n"
+        "click \"Action Requests\" takeAllActions\n"
+        "expect ActionTaken ID=9 within=10000\n"
+        "expect ActionTaken ID=10\n"
+        "close\n"
+        "expect-exit 0\n";
+    XvfbServer server;
+    PassSanitizerSettings();
+    ScenarioOptions options;
+    options.program = ZOLCLIENTUI_PATH;
+    options.displayName = server.DisplayName();
+    std::ostringstream log;
+    ScenarioRunner runner(options, log);
+    try {
+        runner.Run(ParseScenario(scenario, Path("huge.scenario")));
+    } catch (ScenarioError const& failure) {
+        ADD_FAILURE() << failure.what() << "\n" << log.str();
+    }
 }
