@@ -69,7 +69,10 @@ AutoUString<UTF8> FormattedDeadline(TimeInterval const& interval, bool forceRun,
     if (span < 0) {
         if (!forceRun) return Phrase("Overdue");
         if (fromNow) return Phrase("Running...");
-        return Phrase("{seconds} seconds", 0);
+        // A phrase of its own, not "{seconds} seconds" with 0, so that a translation file can
+        // word a deadline already past; the same "0 seconds" reached under a second ahead
+        // stays the counting form.
+        return Phrase("0 seconds");
     }
     AutoUString<UTF8> text;
     if (span <= fiveMinutes) {

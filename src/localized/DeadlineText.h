@@ -14,10 +14,10 @@
 AutoUString<UTF8> FormattedDeadline(Instant const& deadline, Instant const& now, bool forceRun,
                                     bool fromNow);
 // Returns the wording of the interval: "Overdue" when past (under forceRun "Running..." from now,
-// else "0 seconds"); up to five minutes "Now", or under forceRun minutes and seconds; then whole
-// minutes up to an hour, rounded hours up to a day, and rounded days. A value on a threshold
-// belongs to the lower range, and a remainder of exactly half rounds down. With fromNow every
-// phrase that tells a time becomes "{time} from now".
+// else "0 seconds", a key of its own); up to five minutes "Now", or under forceRun minutes and
+// seconds; then whole minutes up to an hour, rounded hours up to a day, and rounded days. A value
+// on a threshold belongs to the lower range, and a remainder of exactly half rounds down. With
+// fromNow every phrase that tells a time becomes "{time} from now".
 AutoUString<UTF8> FormattedDeadline(TimeInterval const& interval, bool forceRun, bool fromNow);
 
 // Returns the decimal digits of the number, as UnixPlatform::FormattedNumber does.

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "testing/ScopedSettings.h"
+#include "testing/ScopedTranslation.h"
 #include "testing/TestText.h"
 #include "text/unicode/UnicodeErrors.h"
 
@@ -67,6 +68,13 @@ TEST(FormattedDeadline, WordsEachRangeAndItsEdges) {
                                           << (row.fromNow ? " from now" : ""));
         EXPECT_EQ(Str(FormattedDeadline(TimeInterval(row.microseconds), row.forceRun, row.fromNow)),
                   row.expected);
+    }
+    // A deadline already past is worded by the key "0 seconds", under a second ahead by the
+    // counting form: a translation of either changes only its own case.
+    {
+        ScopedTranslation const translation("0 seconds\tvorbei\n{seconds} seconds\t{seconds} s\n");
+        EXPECT_EQ(Str(FormattedDeadline(TimeInterval(-1), true, false)), "vorbei");
+        EXPECT_EQ(Str(FormattedDeadline(TimeInterval(999999), true, false)), "0 s");
     }
     // The instant form subtracts now from the deadline.
     EXPECT_EQ(Str(FormattedDeadline(Instant(7200000000 + 5), Instant(5), false, false)), "2 hours");

@@ -61,6 +61,10 @@ void StartTakeAll() {
     if (!ContinueTakeAll()) TakeAllActions();
 }
 
+// Every end of a take-all walk leaves confirmingAll clear: here after the last confirmation was
+// accepted, on a rejection, and in StartTakeAll, which clears it before a walk that may open no
+// confirmation at all. So once the walk is over, an accepted confirmation answers only its own
+// action and never resumes a walk that has ended.
 void FinishTakeAll() {
     TakeAllActions();
     confirmingAll = false;

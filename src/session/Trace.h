@@ -1,8 +1,10 @@
 #pragma once
 // A trace for integrators. With the environment variable ZOLCLIENTUI_TRACE set to anything but
 // the empty text or "0", the process writes one line on standard error for each message it
-// handles, each frame or batch it drops, and each document it sends. The trace never writes to
-// standard output, which is the pipe to the agent, and never changes what the process does.
+// handles, each frame or batch it drops, each session directory or support file it refuses,
+// and each document it sends. Beside the pipe to the agent this trace is the process's only
+// output (the threads' start failures apart): the process keeps no log. The trace never writes
+// to standard output, which is the pipe to the agent, and never changes what the process does.
 
 #include <exception>
 #include <string>
