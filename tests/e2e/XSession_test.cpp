@@ -1,7 +1,7 @@
 // The built program with a real X server: how the running session ends when the display is
 // missing, goes away or has no fonts, or the agent stops reading, how other X clients reach it
 // through its hidden window, that an exception inside a tick ends it normally after its answers
-// have left, and that a huge title does not end it.
+// have left, and that titles it cannot show as they stand do not end it or hide other actions.
 
 // GoogleTest comes before the X headers, whose macros (None, Bool) would break it.
 #include <gtest/gtest.h>
@@ -210,38 +210,58 @@ TEST_F(XSessionTest, TheAgentClosingItsReadEndEndsTheSessionWithZero) {
     ExpectExitStatus(agent, 0);
 }
 
-// A title of two million characters: its row and its label draw only its start, so no drawing
-// passes the size limit of an X request; the process lives and the action is answered.
-TEST_F(XSessionTest, AHugeTitleIsShownCutAndItsActionAnswered) {
-    std::ofstream(Path("huge.xml"))
-        << "<ClientToUI><ActionRequest><ID>9</ID><Title>" << std::string(2000000, 'W')
-        << "</Title></ActionRequest></ClientToUI>";
-    std::string const scenario =
-        "expect ReadyForData\n"
-        "send-text <ClientToUI><InitializationInfo><BaseDirectory>" +
-        Path("session") +
-        "</BaseDirectory></InitializationInfo></ClientToUI>\n"
-        "send huge.xml\n"
-        "send-text <ClientToUI><ActionRequest><ID>10</ID><Title>short</Title></ActionRequest>"
-        "</ClientToUI>\n"
-        "wait-window \"Action Requests\" within=20000\n"
-        "expect-rows \"Action Requests\" viewport 2\n"
-        "click \"Action Requests\" viewport row=0\n"
-        "click \"Action Requests\" takeAllActions\n"
-        "expect ActionTaken ID=9 within=10000\n"
-        "expect ActionTaken ID=10\n"
-        "close\n"
-        "expect-exit 0\n";
+// A title of two million characters, and one with bytes that are not UTF-8 in a Latin-1
+// session, each before two ordinary actions: a row draws only the start of the first, so no
+// drawing passes the size limit of an X request, and the second is shown with replacement
+// characters. The process lives, the list shows three rows, and Take All answers the three.
+TEST_F(XSessionTest, TitlesThatCannotBeShownAsTheyStandKeepTheirRowsAndAreAnswered) {
+    struct Case {
+        char const* what;
+        char const* locale;
+        std::string title;
+    };
+    Case const cases[] = {
+        {"two million characters", "C", std::string(2000000, 'W')},
+        {"bytes that are not UTF-8", "de_DE.ISO-8859-1",
+         "Broken \xFF bytes \xC0\xAF and \xE2\x82 cut"},
+    };
     XvfbServer server;
     PassSanitizerSettings();
-    ScenarioOptions options;
-    options.program = ZOLCLIENTUI_PATH;
-    options.displayName = server.DisplayName();
-    std::ostringstream log;
-    ScenarioRunner runner(options, log);
-    try {
-        runner.Run(ParseScenario(scenario, Path("huge.scenario")));
-    } catch (ScenarioError const& failure) {
-        ADD_FAILURE() << failure.what() << "\n" << log.str();
+    for (Case const& c : cases) {
+        SCOPED_TRACE(c.what);
+        std::ofstream(Path("title.xml")) << "<ClientToUI><ActionRequest><ID>9</ID><Title>"
+                                         << c.title << "</Title></ActionRequest></ClientToUI>";
+        auto const action = [](std::string const& id) {
+            return "send-text <ClientToUI><ActionRequest><ID>" + id + "</ID><Title>Action " + id +
+                   "</Title></ActionRequest></ClientToUI>\n";
+        };
+        std::string const scenario =
+            "start LANG=" + std::string(c.locale) + " LC_ALL=" + c.locale +
+            "\nexpect ReadyForData\n"
+            "send-text <ClientToUI><InitializationInfo><BaseDirectory>" +
+            Path("session") +
+            "</BaseDirectory><InitialUISettings><UseLocale>true</UseLocale></InitialUISettings>"
+            "</InitializationInfo></ClientToUI>\n"
+            "send title.xml\n" +
+            action("10") + action("11") +
+            "wait-window \"Action Requests\" within=20000\n"
+            "expect-rows \"Action Requests\" viewport 3\n"
+            "click \"Action Requests\" viewport row=0\n"
+            "click \"Action Requests\" takeAllActions\n"
+            "expect ActionTaken ID=9 within=10000\n"
+            "expect ActionTaken ID=10\n"
+            "expect ActionTaken ID=11\n"
+            "close\n"
+            "expect-exit 0\n";
+        ScenarioOptions options;
+        options.program = ZOLCLIENTUI_PATH;
+        options.displayName = server.DisplayName();
+        std::ostringstream log;
+        ScenarioRunner runner(options, log);
+        try {
+            runner.Run(ParseScenario(scenario, Path("titles.scenario")));
+        } catch (ScenarioError const& failure) {
+            ADD_FAILURE() << failure.what() << "\n" << log.str();
+        }
     }
 }
