@@ -74,15 +74,3 @@ TEST(ShownText, ReplacesWhatCannotBeShownAndCutsWholeCharacters) {
         EXPECT_EQ(shown, row.expected);
     }
 }
-
-// A text far beyond the limit is cut to the limit, counted in characters of the locale.
-TEST(ShownText, AHugeTextIsCutToTheLimitOfShownCharacters) {
-    ScopedCTypeLocale const locale("de_DE.UTF-8");
-    ASSERT_TRUE(locale.Ok()) << "scripts/setup makes this locale";
-    std::string huge;
-    for (int i = 0; i < 2000000; ++i) huge += "\xC3\xA9";
-    std::string const shown = ShortShownText(U8(huge));
-    EXPECT_EQ(LocalCharacterCount(shown), maxShownCharacters);
-    EXPECT_EQ(shown.substr(shown.size() - 3), ellipsisInUTF8);
-    EXPECT_EQ(ShownText(U8(huge)), huge) << "the whole text is shown where nothing is cut";
-}
