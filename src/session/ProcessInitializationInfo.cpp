@@ -68,6 +68,8 @@ void CheckSessionDirectory(FileLocation const& location) {
         if (!name.empty()) ends.push_back(end);
         start = end + 1;
     }
+    // Emptying the root would empty the whole machine as far as the user may delete.
+    if (ends.empty()) Refuse<SessionDirectoryRefused>("the session directory is the root");
     for (std::size_t end : ends) {
         std::string const prefix = path.substr(0, end);
         struct stat record;
